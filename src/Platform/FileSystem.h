@@ -53,12 +53,20 @@ struct Entry {
     std::optional<Attributes> attributes; // absent when not asked for, or not to be had
 };
 
+/// One entry as a walk shows it; what it points to lasts for the call alone.
+struct EntryView {
+    QByteArrayView name;
+    Kind kind = Kind::other;
+    const Attributes *attributes = nullptr; // null when not asked for, or not to be had
+};
+
 /// The moment as people's records carry it: UTC, in milliseconds.
 [[nodiscard]] QDateTime dateTime(qint64 nanoseconds);
 
 /// The attributes of one item. A link is answered as a link unless `root` says to follow it.
 [[nodiscard]] std::expected<Attributes, std::error_code> attributes(const FileURL &item, Root root = Root::doNotFollow);
 
+/// Whether there is such an item; a link is one, wherever it leads.
 [[nodiscard]] bool exists(const FileURL &item);
 
 /// The item with every link on the way resolved; the item itself where that cannot be done.
@@ -68,7 +76,8 @@ struct Entry {
 [[nodiscard]] std::expected<QList<Entry>, std::error_code> list(const FileURL &folder, Hidden hidden, Want want,
                                                                 Root root = Root::follow);
 
-/// The first bytes of a regular file, `limit` at most; an error for whatever is no readable regular file.
+/// The first bytes of a regular file, `limit` at most; an error for whatever is no readable regular file, links
+/// included.
 [[nodiscard]] std::expected<QByteArray, std::error_code> read(const FileURL &file, qint64 limit);
 
 struct WalkOptions {
@@ -78,7 +87,7 @@ struct WalkOptions {
     Root root = Root::follow;
     /// Whether an entry counts at all; one that does not is neither reported nor entered, nor are its attributes
     /// asked for. Called on several threads at once; absent: every entry counts.
-    std::function<bool(const FileURL &folder, QByteArrayView name, Kind kind)> takes;
+    std::function<bool(const FileURL &folder, QByteArrayView name, Kind kind)> takes = {};
 };
 
 /// What a walk reports, on the thread that called it, in the order of a serial walk from the top: a folder, then its
@@ -94,7 +103,7 @@ public:
         Q_UNUSED(depth)
     }
     /// One entry of `folder`, folders included.
-    virtual void entry(const FileURL &folder, const Entry &entry) = 0;
+    virtual void entry(const FileURL &folder, const EntryView &entry) = 0;
 };
 
 /// Walks the tree below `root`, several folders at a time. What cannot be read contributes nothing. Ends early, with
@@ -113,7 +122,8 @@ struct Measure {
                                                               const CancelToken &cancel);
 
 /// What lies below a path too long for the system is reached step by step; this opens such an item. `flags` are
-/// open(2)'s; O_CLOEXEC and O_NOFOLLOW are added. The caller closes the descriptor.
+/// open(2)'s; O_CLOEXEC and O_NOFOLLOW are added, and what is opened for reading keeps its access time where the system
+/// allows it. The caller closes the descriptor.
 [[nodiscard]] std::expected<int, std::error_code> openItem(const FileURL &item, int flags);
 
 } // namespace FileSystem
