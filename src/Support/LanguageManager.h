@@ -5,6 +5,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 class UserDefaults;
@@ -31,6 +32,9 @@ void apply(AppLanguage language, UserDefaults &defaults);
 [[nodiscard]] AppLanguage shownLanguage();
 /// The active table's text for an English one; the English text itself where there is none. Any thread.
 [[nodiscard]] QString localizedString(QStringView english);
+/// Of a system's languages ("de-AT", "zh-HK"), best first, the first that there are texts in; English when there is
+/// none. Any thread.
+[[nodiscard]] AppLanguage preferredLanguage(const QStringList &systemLanguages);
 /// The language's name in itself; only `system` is translated.
 [[nodiscard]] QString nativeName(AppLanguage language);
 

@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: MIT -->
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Brisko</name>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>No usable home folder</source>
+        <translation>Kein verwendbarer Benutzerordner</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Scan complete — %@ can be freed</source>
+        <translation>Scan abgeschlossen – %@ können freigegeben werden</translation>
+    </message>
+    <message>
+        <source>Old Downloads</source>
+        <translation>Alte Downloads</translation>
+    </message>
+    <message>
+        <source>App Caches</source>
+        <translation>App-Caches</translation>
+    </message>
+    <message>
+        <source>System Logs</source>
+        <translation>Systemprotokolle</translation>
+    </message>
+    <message>
+        <source>Temp Files</source>
+        <translation>Temporäre Dateien</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+    <message>
+        <source>Crash Reports</source>
+        <translation>Absturzberichte</translation>
+    </message>
+    <message>
+        <source>Browser Caches</source>
+        <translation>Browser-Caches</translation>
+    </message>
+    <message>
+        <source>Chat App Caches</source>
+        <translation>Chat-App-Caches</translation>
+    </message>
+    <message>
+        <source>Leftover Installers</source>
+        <translation>Übrig gebliebene Installationsdateien</translation>
+    </message>
+    <message>
+        <source>Scanning system caches…</source>
+        <translation>System-Caches werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>Scanning Trash…</source>
+        <translation>Papierkorb wird durchsucht …</translation>
+    </message>
+    <message>
+        <source>Scanning crash reports…</source>
+        <translation>Absturzberichte werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>Scanning browser caches…</source>
+        <translation>Browser-Caches werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>Scanning chat caches…</source>
+        <translation>Chat-Caches werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>Scanning installers…</source>
+        <translation>Installationsdateien werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Clean %lld categories?</source>
+        <translation>%lld Kategorien bereinigen?</translation>
+    </message>
+    <message>
+        <source>Clean %lld category?</source>
+        <translation>%lld Kategorie bereinigen?</translation>
+    </message>
+    <message>
+        <source>This will move %lld files to Trash.</source>
+        <translation>%lld Dateien werden in den Papierkorb verschoben.</translation>
+    </message>
+    <message>
+        <source>This will move %lld file to Trash.</source>
+        <translation>%lld Datei wird in den Papierkorb verschoben.</translation>
+    </message>
+    <message>
+        <source>This will permanently delete %lld files.</source>
+        <translation>%lld Dateien werden endgültig gelöscht.</translation>
+    </message>
+    <message>
+        <source>This will permanently delete %lld file.</source>
+        <translation>%lld Datei wird endgültig gelöscht.</translation>
+    </message>
+    <message>
+        <source>Total Size</source>
+        <translation>Gesamtgröße</translation>
+    </message>
+    <message>
+        <source>Clean Selected</source>
+        <translation>Auswahl bereinigen</translation>
+    </message>
+    <message>
+        <source>%@ cleaned</source>
+        <translation>%@ bereinigt</translation>
+    </message>
+    <message>
+        <source>%@ freed</source>
+        <translation>%@ freigegeben</translation>
+    </message>
+    <message>
+        <source>Cleaned — %@ freed</source>
+        <translation>Bereinigt – %@ freigegeben</translation>
+    </message>
+    <message>
+        <source>Can't clean junk</source>
+        <translation>Datenmüll kann nicht bereinigt werden</translation>
+    </message>
+    <message>
+        <source>%@ freed, but %lld protected items were skipped (such as diagnostic reports or sandbox data). You can remove them manually in Finder.</source>
+        <translation>%@ freigegeben, aber %lld geschützte Objekte wurden übersprungen (etwa Diagnoseberichte oder Sandbox-Daten). Du kannst sie im Finder selbst entfernen.</translation>
+    </message>
+    <message>
+        <source>Scanning for large files…</source>
+        <translation>Große Dateien werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Scanning… %lld files checked</source>
+        <translation>Wird durchsucht … %lld Dateien geprüft</translation>
+    </message>
+    <message>
+        <source>Remove %lld large files?</source>
+        <translation>%lld große Dateien entfernen?</translation>
+    </message>
+    <message>
+        <source>Remove %lld large file?</source>
+        <translation>%lld große Datei entfernen?</translation>
+    </message>
+    <message>
+        <source>The selected files will be moved to Trash.</source>
+        <translation>Die ausgewählten Dateien werden in den Papierkorb verschoben.</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>%lld large files removed</source>
+        <translation>%lld große Dateien entfernt</translation>
+    </message>
+    <message>
+        <source>%lld large file removed</source>
+        <translation>%lld große Datei entfernt</translation>
+    </message>
+    <message>
+        <source>Can't move to Trash</source>
+        <translation>Verschieben in den Papierkorb nicht möglich</translation>
+    </message>
+    <message>
+        <source>Moved to Trash — %@ freed</source>
+        <translation>In den Papierkorb verschoben – %@ freigegeben</translation>
+    </message>
+    <message>
+        <source>Finding duplicate files…</source>
+        <translation>Doppelte Dateien werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Collecting files…</source>
+        <translation>Dateien werden erfasst …</translation>
+    </message>
+    <message>
+        <source>Collecting files… %lld</source>
+        <translation>Dateien werden erfasst … %lld</translation>
+    </message>
+    <message>
+        <source>Hashing files…</source>
+        <translation>Prüfsummen werden berechnet …</translation>
+    </message>
+    <message>
+        <source>Hashing files… %lld%%</source>
+        <translation>Prüfsummen werden berechnet … %lld %%</translation>
+    </message>
+    <message>
+        <source>Remove %lld duplicate files?</source>
+        <translation>%lld doppelte Dateien entfernen?</translation>
+    </message>
+    <message>
+        <source>Remove %lld duplicate file?</source>
+        <translation>%lld doppelte Datei entfernen?</translation>
+    </message>
+    <message>
+        <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
+        <translation>Die ausgewählten Kopien werden in den Papierkorb verschoben. Von jeder Datei bleibt ein Original erhalten.</translation>
+    </message>
+    <message>
+        <source>Selected Files</source>
+        <translation>Ausgewählte Dateien</translation>
+    </message>
+    <message>
+        <source>%lld duplicate files removed</source>
+        <translation>%lld doppelte Dateien entfernt</translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <translation>%@ entfernt</translation>
+    </message>
+    <message>
+        <source>Removed %lld duplicates — %@ freed</source>
+        <translation>%lld Duplikate entfernt – %@ freigegeben</translation>
+    </message>
+    <message>
+        <source>Scanning applications…</source>
+        <translation>Apps werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Brisko needs access to the Library folder to find app-related files.</source>
+        <translation>Brisko benötigt Zugriff auf den Library-Ordner, um zugehörige Dateien von Apps zu finden.</translation>
+    </message>
+    <message>
+        <source>Brisko needs access to the Library folder to scan caches and logs.</source>
+        <translation>Brisko benötigt Zugriff auf den Library-Ordner, um Caches und Protokolle zu durchsuchen.</translation>
+    </message>
+    <message>
+        <source>Brisko needs access to the Applications folder to move apps to Trash.</source>
+        <translation>Brisko benötigt Zugriff auf den Programme-Ordner, um Apps in den Papierkorb zu verschieben.</translation>
+    </message>
+    <message>
+        <source>Add Folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>Zugriff gewähren</translation>
+    </message>
+    <message>
+        <source>Uninstall %@?</source>
+        <translation>%@ deinstallieren?</translation>
+    </message>
+    <message>
+        <source>%lld apps</source>
+        <translation>%lld Apps</translation>
+    </message>
+    <message>
+        <source>This will move the application and related files to Trash.</source>
+        <translation>Die App und die zugehörigen Dateien werden in den Papierkorb verschoben.</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Related Files</source>
+        <translation>Zugehörige Dateien</translation>
+    </message>
+    <message>
+        <source>%@ uninstalled</source>
+        <translation>%@ deinstalliert</translation>
+    </message>
+    <message>
+        <source>%lld apps uninstalled</source>
+        <translation>%lld Apps deinstalliert</translation>
+    </message>
+    <message>
+        <source>Launch Agent</source>
+        <translation>Launch Agent</translation>
+    </message>
+    <message>
+        <source>Launch Daemon</source>
+        <translation>Launch Daemon</translation>
+    </message>
+    <message>
+        <source>Login Item</source>
+        <translation>Anmeldeobjekt</translation>
+    </message>
+    <message>
+        <source>Scanning startup items…</source>
+        <translation>Startobjekte werden gesucht …</translation>
+    </message>
+    <message>
+        <source>%@ enabled</source>
+        <translation>%@ aktiviert</translation>
+    </message>
+    <message>
+        <source>%@ disabled</source>
+        <translation>%@ deaktiviert</translation>
+    </message>
+    <message>
+        <source>Remove %@?</source>
+        <translation>%@ entfernen?</translation>
+    </message>
+    <message>
+        <source>This will move the plist file to Trash. You can re-enable it later from the original app.</source>
+        <translation>Die plist-Datei wird in den Papierkorb verschoben. Du kannst das Objekt später in der zugehörigen App wieder aktivieren.</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Removed %@</source>
+        <translation>%@ entfernt</translation>
+    </message>
+    <message>
+        <source>Can't remove startup item</source>
+        <translation>Startobjekt kann nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>Cannot remove system-level startup items</source>
+        <translation>Startobjekte des Systems können nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>System-level items cannot be modified</source>
+        <translation>Objekte des Systems können nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>System-level items cannot be removed</source>
+        <translation>Objekte des Systems können nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>Can't reach the update server. Check your network and try again.</source>
+        <translation>Der Update-Server ist nicht erreichbar. Überprüfe die Netzwerkverbindung und versuche es erneut.</translation>
+    </message>
+    <message>
+        <source>You're up to date!</source>
+        <translation>Du bist auf dem neuesten Stand!</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,360 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: MIT -->
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Brisko</name>
+    <message>
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>No usable home folder</source>
+        <translation>使用できるホームフォルダがありません</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Scan complete — %@ can be freed</source>
+        <translation>スキャン完了 — %@を解放できます</translation>
+    </message>
+    <message>
+        <source>Old Downloads</source>
+        <translation>古いダウンロード</translation>
+    </message>
+    <message>
+        <source>App Caches</source>
+        <translation>アプリのキャッシュ</translation>
+    </message>
+    <message>
+        <source>System Logs</source>
+        <translation>システムログ</translation>
+    </message>
+    <message>
+        <source>Temp Files</source>
+        <translation>一時ファイル</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>ゴミ箱</translation>
+    </message>
+    <message>
+        <source>Crash Reports</source>
+        <translation>クラッシュレポート</translation>
+    </message>
+    <message>
+        <source>Browser Caches</source>
+        <translation>ブラウザのキャッシュ</translation>
+    </message>
+    <message>
+        <source>Chat App Caches</source>
+        <translation>チャットアプリのキャッシュ</translation>
+    </message>
+    <message>
+        <source>Leftover Installers</source>
+        <translation>残ったインストーラ</translation>
+    </message>
+    <message>
+        <source>Scanning system caches…</source>
+        <translation>システムキャッシュをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Scanning Trash…</source>
+        <translation>ゴミ箱をスキャン中…</translation>
+    </message>
+    <message>
+        <source>Scanning crash reports…</source>
+        <translation>クラッシュレポートをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Scanning browser caches…</source>
+        <translation>ブラウザのキャッシュをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Scanning chat caches…</source>
+        <translation>チャットのキャッシュをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Scanning installers…</source>
+        <translation>インストーラをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Clean %lld categories?</source>
+        <translation>%lld個のカテゴリをクリーンアップしますか？</translation>
+    </message>
+    <message>
+        <source>Clean %lld category?</source>
+        <translation>%lld個のカテゴリをクリーンアップしますか？</translation>
+    </message>
+    <message>
+        <source>This will move %lld files to Trash.</source>
+        <translation>%lld個のファイルをゴミ箱に移動します。</translation>
+    </message>
+    <message>
+        <source>This will move %lld file to Trash.</source>
+        <translation>%lld個のファイルをゴミ箱に移動します。</translation>
+    </message>
+    <message>
+        <source>This will permanently delete %lld files.</source>
+        <translation>%lld個のファイルを完全に削除します。</translation>
+    </message>
+    <message>
+        <source>This will permanently delete %lld file.</source>
+        <translation>%lld個のファイルを完全に削除します。</translation>
+    </message>
+    <message>
+        <source>Total Size</source>
+        <translation>合計サイズ</translation>
+    </message>
+    <message>
+        <source>Clean Selected</source>
+        <translation>選択項目をクリーンアップ</translation>
+    </message>
+    <message>
+        <source>%@ cleaned</source>
+        <translation>%@をクリーンアップしました</translation>
+    </message>
+    <message>
+        <source>%@ freed</source>
+        <translation>%@を解放しました</translation>
+    </message>
+    <message>
+        <source>Cleaned — %@ freed</source>
+        <translation>クリーンアップ完了 — %@を解放しました</translation>
+    </message>
+    <message>
+        <source>Can't clean junk</source>
+        <translation>不要なファイルをクリーンアップできません</translation>
+    </message>
+    <message>
+        <source>%@ freed, but %lld protected items were skipped (such as diagnostic reports or sandbox data). You can remove them manually in Finder.</source>
+        <translation>%@を解放しましたが、保護された%lld個の項目（診断レポートやサンドボックスのデータなど）はスキップされました。Finderで手動で削除できます。</translation>
+    </message>
+    <message>
+        <source>Scanning for large files…</source>
+        <translation>大きなファイルをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Scanning… %lld files checked</source>
+        <translation>スキャン中… %lld個のファイルを確認済み</translation>
+    </message>
+    <message>
+        <source>Remove %lld large files?</source>
+        <translation>%lld個の大きなファイルを削除しますか？</translation>
+    </message>
+    <message>
+        <source>Remove %lld large file?</source>
+        <translation>%lld個の大きなファイルを削除しますか？</translation>
+    </message>
+    <message>
+        <source>The selected files will be moved to Trash.</source>
+        <translation>選択したファイルをゴミ箱に移動します。</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>ゴミ箱に入れる</translation>
+    </message>
+    <message>
+        <source>%lld large files removed</source>
+        <translation>%lld個の大きなファイルを削除しました</translation>
+    </message>
+    <message>
+        <source>%lld large file removed</source>
+        <translation>%lld個の大きなファイルを削除しました</translation>
+    </message>
+    <message>
+        <source>Can't move to Trash</source>
+        <translation>ゴミ箱に移動できません</translation>
+    </message>
+    <message>
+        <source>Moved to Trash — %@ freed</source>
+        <translation>ゴミ箱に移動しました — %@を解放しました</translation>
+    </message>
+    <message>
+        <source>Finding duplicate files…</source>
+        <translation>重複ファイルを検索中…</translation>
+    </message>
+    <message>
+        <source>Collecting files…</source>
+        <translation>ファイルを収集中…</translation>
+    </message>
+    <message>
+        <source>Collecting files… %lld</source>
+        <translation>ファイルを収集中… %lld</translation>
+    </message>
+    <message>
+        <source>Hashing files…</source>
+        <translation>ハッシュを計算中…</translation>
+    </message>
+    <message>
+        <source>Hashing files… %lld%%</source>
+        <translation>ハッシュを計算中… %lld%%</translation>
+    </message>
+    <message>
+        <source>Remove %lld duplicate files?</source>
+        <translation>%lld個の重複ファイルを削除しますか？</translation>
+    </message>
+    <message>
+        <source>Remove %lld duplicate file?</source>
+        <translation>%lld個の重複ファイルを削除しますか？</translation>
+    </message>
+    <message>
+        <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
+        <translation>選択したコピーをゴミ箱に移動します。各ファイルの元のコピーは1つ残ります。</translation>
+    </message>
+    <message>
+        <source>Selected Files</source>
+        <translation>選択したファイル</translation>
+    </message>
+    <message>
+        <source>%lld duplicate files removed</source>
+        <translation>%lld個の重複ファイルを削除しました</translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <translation>%@を削除しました</translation>
+    </message>
+    <message>
+        <source>Removed %lld duplicates — %@ freed</source>
+        <translation>%lld個の重複ファイルを削除 — %@を解放しました</translation>
+    </message>
+    <message>
+        <source>Scanning applications…</source>
+        <translation>アプリケーションをスキャン中…</translation>
+    </message>
+    <message>
+        <source>Brisko needs access to the Library folder to find app-related files.</source>
+        <translation>アプリの関連ファイルを見つけるために、Briskoはライブラリフォルダへのアクセスが必要です。</translation>
+    </message>
+    <message>
+        <source>Brisko needs access to the Library folder to scan caches and logs.</source>
+        <translation>キャッシュとログをスキャンするために、Briskoはライブラリフォルダへのアクセスが必要です。</translation>
+    </message>
+    <message>
+        <source>Brisko needs access to the Applications folder to move apps to Trash.</source>
+        <translation>アプリをゴミ箱に移動するために、Briskoはアプリケーションフォルダへのアクセスが必要です。</translation>
+    </message>
+    <message>
+        <source>Add Folder</source>
+        <translation>フォルダを追加</translation>
+    </message>
+    <message>
+        <source>Grant Access</source>
+        <translation>アクセスを許可</translation>
+    </message>
+    <message>
+        <source>Uninstall %@?</source>
+        <translation>%@をアンインストールしますか？</translation>
+    </message>
+    <message>
+        <source>%lld apps</source>
+        <translation>%lld個のアプリ</translation>
+    </message>
+    <message>
+        <source>This will move the application and related files to Trash.</source>
+        <translation>アプリケーションと関連ファイルをゴミ箱に移動します。</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>Related Files</source>
+        <translation>関連ファイル</translation>
+    </message>
+    <message>
+        <source>%@ uninstalled</source>
+        <translation>%@をアンインストールしました</translation>
+    </message>
+    <message>
+        <source>%lld apps uninstalled</source>
+        <translation>%lld個のアプリをアンインストールしました</translation>
+    </message>
+    <message>
+        <source>Launch Agent</source>
+        <translation>起動エージェント</translation>
+    </message>
+    <message>
+        <source>Launch Daemon</source>
+        <translation>起動デーモン</translation>
+    </message>
+    <message>
+        <source>Login Item</source>
+        <translation>ログイン項目</translation>
+    </message>
+    <message>
+        <source>Scanning startup items…</source>
+        <translation>起動項目をスキャン中…</translation>
+    </message>
+    <message>
+        <source>%@ enabled</source>
+        <translation>%@を有効にしました</translation>
+    </message>
+    <message>
+        <source>%@ disabled</source>
+        <translation>%@を無効にしました</translation>
+    </message>
+    <message>
+        <source>Remove %@?</source>
+        <translation>%@を削除しますか？</translation>
+    </message>
+    <message>
+        <source>This will move the plist file to Trash. You can re-enable it later from the original app.</source>
+        <translation>plistファイルをゴミ箱に移動します。後で元のアプリから再度有効にできます。</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Removed %@</source>
+        <translation>%@を削除しました</translation>
+    </message>
+    <message>
+        <source>Can't remove startup item</source>
+        <translation>起動項目を削除できません</translation>
+    </message>
+    <message>
+        <source>Cannot remove system-level startup items</source>
+        <translation>システムレベルの起動項目は削除できません</translation>
+    </message>
+    <message>
+        <source>System-level items cannot be modified</source>
+        <translation>システムレベルの項目は変更できません</translation>
+    </message>
+    <message>
+        <source>System-level items cannot be removed</source>
+        <translation>システムレベルの項目は削除できません</translation>
+    </message>
+    <message>
+        <source>Can't reach the update server. Check your network and try again.</source>
+        <translation>アップデートサーバに接続できません。ネットワークを確認してもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>You're up to date!</source>
+        <translation>最新の状態です！</translation>
+    </message>
+</context>
+</TS>
