@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/FileSystem.h"
 
-#include "Models/CheckedSum.h"
 #include "Platform/Descriptor.h"
 #include "Platform/FolderPrimitives.h"
+#include "Platform/FolderTree.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -13,7 +13,6 @@
 #include <climits>
 #include <cstdlib>
 #include <memory>
-#include <vector>
 
 namespace {
 
@@ -188,56 +187,54 @@ std::expected<QByteArray, std::error_code> FileSystem::read(const FileURL &file,
 
 void FileSystem::walk(const FileURL &root, const WalkOptions &options, Visitor &visitor, const CancelToken &cancel)
 {
-    struct Level {
-        FileURL folder;
-        QList<Entry> entries;
-        qsizetype next = 0;
-    };
-    std::vector<Level> levels;
-    const auto enter = [&](const FileURL &folder, Root how) {
-        visitor.folder(folder, static_cast<int>(levels.size()));
-        auto entries = list(folder, options.hidden, options.want, how).value_or(QList<Entry>{});
-        if (options.takes)
-            entries.removeIf([&](const Entry &entry) { return !options.takes(folder, entry.name, entry.kind); });
-        levels.push_back({.folder = folder, .entries = std::move(entries), .next = 0});
-    };
-    enter(root, options.root);
-    while (!levels.empty() && !cancel.isCancelled()) {
-        Level &level = levels.back();
-        if (level.next == level.entries.size()) {
-            levels.pop_back();
+    if (cancel.isCancelled())
+        return;
+    visitor.folder(root, 0);
+    if (options.levels <= 0)
+        return;
+    auto descriptor = openFolder(root, options.root);
+    if (!descriptor)
+        return;
+    FolderTree tree(root, *std::move(descriptor), options, FolderTree::Purpose::walk, cancel);
+    FolderTree::Folder *folder = &tree.root();
+    FileURL url = root;
+    while (folder && !cancel.isCancelled()) {
+        if (folder->delivered == folder->records.size()) {
+            FolderTree::Folder *parent = folder->parent;
+            tree.leave(*folder);
+            folder = parent;
+            url = FileURL();
             continue;
         }
-        const Entry &entry = level.entries.at(level.next++);
-        visitor.entry(
-            level.folder,
-            {.name = entry.name, .kind = entry.kind, .attributes = entry.attributes ? &*entry.attributes : nullptr});
-        if (entry.kind == Kind::folder && static_cast<int>(levels.size()) < options.levels)
-            enter(level.folder.child(entry.name), Root::doNotFollow);
+        if (url.isEmpty())
+            url = tree.urlOf(*folder);
+        const FolderTree::Record &record = folder->records[folder->delivered++];
+        const bool isKnown = record.attributes != FolderTree::Record::kNone;
+        visitor.entry(url, {.name = {folder->names.data() + record.name, record.length},
+                            .kind = record.kind,
+                            .attributes = isKnown ? &folder->attributes[record.attributes] : nullptr});
+        if (!record.isEntered)
+            continue;
+        folder = tree.next(*folder);
+        if (folder) {
+            url = tree.urlOf(*folder);
+            visitor.folder(url, folder->depth);
+        }
     }
 }
 
 std::expected<Measure, std::error_code> FileSystem::measure(const FileURL &folder, Hidden hidden,
-                                                            const CancelToken &cancel)
+                                                            const CancelToken &cancel, Root root)
 {
-    class Sum : public Visitor
-    {
-    public:
-        Measure measure;
-        void entry(const FileURL &, const EntryView &entry) override
-        {
-            ++measure.entries;
-            if (!entry.attributes || entry.kind == Kind::folder)
-                return;
-            measure.allocated = checkedSum(measure.allocated, entry.attributes->allocated);
-            if (entry.kind == Kind::regular)
-                measure.logical = checkedSum(measure.logical, entry.attributes->size.value_or(0));
-        }
-    } sum;
-    if (const auto listed = list(folder, hidden, Want::kinds); !listed)
-        return std::unexpected(listed.error());
-    walk(folder, {.hidden = hidden, .want = Want::everything}, sum, cancel);
-    return sum.measure;
+    auto descriptor = openFolder(folder, root);
+    if (!descriptor)
+        return std::unexpected(descriptor.error());
+    const WalkOptions options{.hidden = hidden, .want = Want::everything};
+    FolderTree tree(folder, *std::move(descriptor), options, FolderTree::Purpose::measure, cancel);
+    const Measure sum = tree.sum();
+    if (tree.rootError() != 0 && sum.entries == 0)
+        return std::unexpected(std::error_code(tree.rootError(), std::generic_category()));
+    return sum;
 }
 
 std::expected<int, std::error_code> FileSystem::openItem(const FileURL &item, int flags)

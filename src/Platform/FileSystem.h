@@ -117,9 +117,10 @@ struct Measure {
     qint64 entries = 0;   // how many entries of any kind were seen
 };
 
-/// Measures the tree below a folder, several folders at a time; an error only when the folder itself cannot be listed.
+/// Measures the tree below a folder, several folders at a time; an error only when the folder itself cannot be listed,
+/// or is a link that is not to be followed.
 [[nodiscard]] std::expected<Measure, std::error_code> measure(const FileURL &folder, Hidden hidden,
-                                                              const CancelToken &cancel);
+                                                              const CancelToken &cancel, Root root = Root::doNotFollow);
 
 /// What lies below a path too long for the system is reached step by step; this opens such an item. `flags` are
 /// open(2)'s; O_CLOEXEC and O_NOFOLLOW are added, and what is opened for reading keeps its access time where the system

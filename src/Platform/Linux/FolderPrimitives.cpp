@@ -95,6 +95,8 @@ int FolderPrimitives::openWithoutLinks(int folder, const char *path, int flags)
     open_how how{};
     how.resolve = RESOLVE_NO_SYMLINKS;
     for (const int quiet : {O_NOATIME, 0}) {
+        if ((flags & O_PATH) != 0 && quiet != 0)
+            continue; // the call is strict, and refuses the two together
         how.flags = static_cast<quint64>(flags | O_NOFOLLOW | O_CLOEXEC | quiet);
         const long fd = ::syscall(SYS_openat2, folder, path, &how, sizeof how);
         if (fd >= 0)
