@@ -25,6 +25,8 @@ enum class Failure { badAddress, unreachable, badStatus, malformed };
 [[nodiscard]] std::expected<QUrl, QString> appcastURL();
 /// Whether a feed may be fetched from here: `https:`, or `http:` to a loopback address.
 [[nodiscard]] bool isAllowed(const QUrl &address);
+/// Whether a feed at `from` may send us on to `to`: never to a lower scheme, never off this machine without https.
+[[nodiscard]] bool mayRedirect(const QUrl &from, const QUrl &to);
 
 /// Fetches the feed past every cache. Whatever goes wrong is a failure: no answer within the time, a status other
 /// than 200, more than 1 MiB, more than 3 redirects or one to a lower scheme, malformed JSON.
@@ -36,7 +38,7 @@ QCoro::Task<std::expected<UpdateInfo, Failure>> fetchAppcast(QUrl address, std::
 /// The running version.
 [[nodiscard]] QString currentVersion();
 
-/// Whether version `a` is newer than `b`: dotted numbers, missing and odd pieces counting as 0.
+/// Whether version `a` is newer than `b`: dotted numbers of any size, missing and odd pieces counting as 0.
 [[nodiscard]] bool isVersion(const QString &a, const QString &b);
 
 /// The release notes for the interface language: its full identifier, its language, "en", else the first.
