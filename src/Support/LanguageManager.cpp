@@ -35,36 +35,6 @@ bool hasTexts(AppLanguage language)
     return language == AppLanguage::en || QFile::exists(tablePath(language));
 }
 
-/// The language of ours that a system's language code ("zh-HK", "de_AT") stands for.
-std::optional<AppLanguage> languageOfCode(const QString &code)
-{
-    const QLocale locale(code);
-    switch (locale.language()) {
-    case QLocale::English:
-        return AppLanguage::en;
-    case QLocale::Japanese:
-        return AppLanguage::ja;
-    case QLocale::Korean:
-        return AppLanguage::ko;
-    case QLocale::Chinese:
-        return locale.script() == QLocale::TraditionalHanScript ? AppLanguage::zhHant : AppLanguage::zhHans;
-    case QLocale::German:
-        return AppLanguage::de;
-    case QLocale::French:
-        return AppLanguage::fr;
-    case QLocale::Spanish:
-        return AppLanguage::es;
-    case QLocale::Italian:
-        return AppLanguage::it;
-    case QLocale::Turkish:
-        return AppLanguage::tr;
-    case QLocale::Thai:
-        return AppLanguage::th;
-    default:
-        return std::nullopt;
-    }
-}
-
 QString localeIdentifierOf(AppLanguage language, const QString &systemIdentifier)
 {
     switch (language) {
@@ -191,6 +161,35 @@ void LanguageManager::apply(AppLanguage language, UserDefaults &defaults)
         defaults.remove(DefaultsKey::appleLanguages);
     else
         defaults.setTextList(DefaultsKey::appleLanguages, {rawValue(language)});
+}
+
+std::optional<AppLanguage> LanguageManager::languageOfCode(const QString &code)
+{
+    const QLocale locale(code);
+    switch (locale.language()) {
+    case QLocale::English:
+        return AppLanguage::en;
+    case QLocale::Japanese:
+        return AppLanguage::ja;
+    case QLocale::Korean:
+        return AppLanguage::ko;
+    case QLocale::Chinese:
+        return locale.script() == QLocale::TraditionalHanScript ? AppLanguage::zhHant : AppLanguage::zhHans;
+    case QLocale::German:
+        return AppLanguage::de;
+    case QLocale::French:
+        return AppLanguage::fr;
+    case QLocale::Spanish:
+        return AppLanguage::es;
+    case QLocale::Italian:
+        return AppLanguage::it;
+    case QLocale::Turkish:
+        return AppLanguage::tr;
+    case QLocale::Thai:
+        return AppLanguage::th;
+    default:
+        return std::nullopt;
+    }
 }
 
 AppLanguage LanguageManager::preferredLanguage(const QStringList &systemLanguages)

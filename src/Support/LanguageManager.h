@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QStringView>
 
+#include <optional>
+
 class UserDefaults;
 
 /// Which language every text is looked up in. Two process-wide values, the active table and the current language,
@@ -32,6 +34,8 @@ void apply(AppLanguage language, UserDefaults &defaults);
 [[nodiscard]] AppLanguage shownLanguage();
 /// The active table's text for an English one; the English text itself where there is none. Any thread.
 [[nodiscard]] QString localizedString(QStringView english);
+/// The language of ours that a system's code ("zh-HK", "de_AT") stands for; absent for any other. Any thread.
+[[nodiscard]] std::optional<AppLanguage> languageOfCode(const QString &code);
 /// Of a system's languages ("de-AT", "zh-HK"), best first, the first that there are texts in; English when there is
 /// none. Any thread.
 [[nodiscard]] AppLanguage preferredLanguage(const QStringList &systemLanguages);

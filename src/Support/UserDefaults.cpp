@@ -60,7 +60,9 @@ bool isSound(const QByteArray &content)
         return true;
     if (content.contains('\0') || !content.isValidUtf8() || !content.endsWith('\n'))
         return false;
-    const QList<QByteArray> lines = content.split('\n');
+    // Some editors begin a text with a mark of its byte order.
+    constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+    const QList<QByteArray> lines = content.sliced(content.startsWith(byteOrderMark) ? 3 : 0).split('\n');
     return std::all_of(lines.cbegin(), lines.cend(), [](const QByteArray &line) { return isSoundLine(line); });
 }
 
@@ -144,11 +146,10 @@ std::optional<QString> UserDefaults::text(const QString &key) const
 
 QStringList UserDefaults::textList(const QString &key) const
 {
-    // The file does not tell a list of one from a text.
+    // The file does not tell a list of one from a text, and reads a list with a NUL in it as one of values.
     const QVariant found = value(key);
-    if (found.typeId() == QMetaType::QStringList || found.typeId() == QMetaType::QString)
-        return found.toStringList();
-    return {};
+    const bool isList = found.typeId() == QMetaType::QStringList || found.typeId() == QMetaType::QVariantList;
+    return isList || found.typeId() == QMetaType::QString ? found.toStringList() : QStringList();
 }
 
 std::optional<QByteArray> UserDefaults::data(const QString &key) const

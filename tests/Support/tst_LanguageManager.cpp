@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "Support/LanguageManager.h"
+#include "Support/LanguageSnapshot.h"
+#include "Support/Text.h"
+#include "Support/UserDefaults.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <set>
+#include <thread>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class LanguageManagerTest : public testing::Test
+{
+protected:
+    QTemporaryDir folder;
+    UserDefaults defaults{folder.filePath(u"Brisko.conf"_s)};
+};
+
+TEST_F(LanguageManagerTest, storesTraditionalChineseUnderBothKeys)
+{
+    LanguageManager::apply(AppLanguage::zhHant, defaults);
+    EXPECT_EQ(defaults.text(DefaultsKey::appLanguage), u"zh-Hant"_s);
+    EXPECT_EQ(defaults.textList(DefaultsKey::appleLanguages), QStringList{u"zh-Hant"_s});
+}
+
+TEST_F(LanguageManagerTest, forgetsTheListWhenTheSystemIsChosenAgain)
+{
+    LanguageManager::apply(AppLanguage::ja, defaults);
+    EXPECT_TRUE(defaults.contains(DefaultsKey::appleLanguages));
+    LanguageManager::apply(AppLanguage::system, defaults);
+    EXPECT_EQ(defaults.text(DefaultsKey::appLanguage), u"system"_s);
+    EXPECT_FALSE(defaults.contains(DefaultsKey::appleLanguages));
+}
+
+TEST_F(LanguageManagerTest, startsInSystemForAnUnknownStoredLanguage)
+{
+    LanguageManager::apply(AppLanguage::de, defaults);
+    defaults.setText(DefaultsKey::appLanguage, u"pt"_s);
+    LanguageManager::activate(defaults);
+    EXPECT_EQ(LanguageManager::current(), AppLanguage::system);
+    EXPECT_EQ(defaults.text(DefaultsKey::appLanguage), u"system"_s);
+    EXPECT_FALSE(defaults.contains(DefaultsKey::appleLanguages));
+}
+
+TEST_F(LanguageManagerTest, startsInSystemWithNothingStored)
+{
+    LanguageManager::apply(AppLanguage::de, defaults);
+    defaults.remove(DefaultsKey::appLanguage);
+    LanguageManager::activate(defaults);
+    EXPECT_EQ(LanguageManager::current(), AppLanguage::system);
+}
+
+TEST_F(LanguageManagerTest, startsInTheStoredLanguage)
+{
+    defaults.setText(DefaultsKey::appLanguage, u"ja"_s);
+    LanguageManager::activate(defaults);
+    EXPECT_EQ(LanguageManager::current(), AppLanguage::ja);
+    EXPECT_EQ(LanguageManager::localizedString(u"Trash"), u"ゴミ箱"_s);
+    EXPECT_EQ(defaults.textList(DefaultsKey::appleLanguages), QStringList{u"ja"_s});
+}
+
+TEST_F(LanguageManagerTest, formatsGermanWithTheGermanLocale)
+{
+    LanguageManager::apply(AppLanguage::de, defaults);
+    EXPECT_EQ(LanguageManager::localeIdentifier(), u"de_DE"_s);
+    EXPECT_EQ(LanguageManager::locale(), QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(Text::filled(u"Hashing files… %lld%%", {qint64{1'234}}), u"Prüfsummen werden berechnet … 1.234 %"_s);
+}
+
+TEST_F(LanguageManagerTest, hasTheDocumentedLocaleForEachLanguage)
+{
+    const QList<std::pair<AppLanguage, QString>> documented{
+        {AppLanguage::en, u"en_US"_s},          {AppLanguage::ja, u"ja_JP"_s},          {AppLanguage::ko, u"ko_KR"_s},
+        {AppLanguage::zhHans, u"zh_Hans_CN"_s}, {AppLanguage::zhHant, u"zh_Hant_TW"_s}, {AppLanguage::de, u"de_DE"_s},
+        {AppLanguage::fr, u"fr_FR"_s},          {AppLanguage::es, u"es_ES"_s},          {AppLanguage::it, u"it_IT"_s},
+        {AppLanguage::tr, u"tr_TR"_s},          {AppLanguage::th, u"th_TH"_s}};
+    for (const auto &[language, identifier] : documented) {
+        LanguageManager::apply(language, defaults);
+        EXPECT_EQ(LanguageManager::current(), language);
+        EXPECT_EQ(LanguageManager::shownLanguage(), language);
+        EXPECT_EQ(LanguageManager::localeIdentifier(), identifier);
+    }
+}
+
+TEST_F(LanguageManagerTest, fallsBackToEnglishTextsWithoutATableAndStoresTheChoice)
+{
+    for (const AppLanguage language : allLanguages()) {
+        if (language == AppLanguage::system || language == AppLanguage::en ||
+            QFile::exists(u":/localization/%1.lproj/Brisko.qm"_s.arg(rawValue(language))))
+            continue;
+        LanguageManager::apply(language, defaults);
+        EXPECT_EQ(Text::lookup(u"Trash"), u"Trash"_s);
+        EXPECT_EQ(defaults.text(DefaultsKey::appLanguage), rawValue(language));
+        EXPECT_EQ(defaults.textList(DefaultsKey::appleLanguages), QStringList{rawValue(language)});
+    }
+}
+
+TEST_F(LanguageManagerTest, namesEachLanguageInItself)
+{
+    LanguageManager::apply(AppLanguage::ja, defaults);
+    const QStringList names{u"システム"_s, u"English"_s,  u"日本語"_s,  u"한국어"_s,   u"简体中文"_s, u"繁體中文"_s,
+                            u"Deutsch"_s,  u"Français"_s, u"Español"_s, u"Italiano"_s, u"Türkçe"_s,   u"ไทย"_s};
+    QStringList ours;
+    for (const AppLanguage language : allLanguages())
+        ours.append(LanguageManager::nativeName(language));
+    EXPECT_EQ(ours, names);
+}
+
+TEST_F(LanguageManagerTest, picksTheFirstSystemLanguageWithTexts)
+{
+    using LanguageManager::preferredLanguage;
+    EXPECT_EQ(preferredLanguage({u"de-AT"_s, u"de-Latn-AT"_s}), AppLanguage::de);
+    EXPECT_EQ(preferredLanguage({u"ja"_s}), AppLanguage::ja);
+    EXPECT_EQ(preferredLanguage({u"pt-BR"_s, u"de"_s, u"ja"_s}), AppLanguage::de);
+    EXPECT_EQ(preferredLanguage({u"en-GB"_s, u"de"_s}), AppLanguage::en);
+    EXPECT_EQ(preferredLanguage({u"pt-BR"_s}), AppLanguage::en);
+    EXPECT_EQ(preferredLanguage({u"C"_s}), AppLanguage::en);
+    EXPECT_EQ(preferredLanguage({}), AppLanguage::en);
+}
+
+TEST_F(LanguageManagerTest, makesOneSnapshotForEachLanguage)
+{
+    std::set<const LanguageSnapshot *> seen;
+    for (int round = 0; round < 3; ++round) {
+        for (const AppLanguage language : allLanguages()) {
+            LanguageManager::apply(language, defaults);
+            seen.insert(&languageSnapshot());
+        }
+    }
+    EXPECT_EQ(qsizetype(seen.size()), allLanguages().size());
+}
+
+TEST_F(LanguageManagerTest, letsThreadsLookUpWhileTheMainThreadSwitches)
+{
+    const QString english = u"Removed 12,500 duplicates — x freed"_s;
+    const QString german = u"12.500 Duplikate entfernt – x freigegeben"_s;
+    const QString japanese = u"12,500個の重複ファイルを削除 — xを解放しました"_s;
+    LanguageManager::apply(AppLanguage::en, defaults);
+    std::atomic<bool> done{false};
+    std::atomic<int> wrong{0};
+    std::atomic<int> germans{0};
+    std::vector<std::thread> readers;
+    for (int reader = 0; reader < 4; ++reader) {
+        readers.emplace_back([&] {
+            while (!done) {
+                // Text and grouping must come from one language, never one from each.
+                const QString text = Text::filled(u"Removed %lld duplicates — %@ freed", {qint64{12'500}, u"x"_s});
+                germans += text == german;
+                wrong += text != english && text != german && text != japanese;
+                wrong += LanguageManager::nativeName(LanguageManager::current()).isEmpty();
+            }
+        });
+    }
+    const std::array choices{AppLanguage::de, AppLanguage::ja, AppLanguage::en};
+    for (size_t turn = 0; turn < 60 || germans == 0; ++turn)
+        LanguageManager::apply(choices[turn % choices.size()], defaults);
+    done = true;
+    for (std::thread &reader : readers)
+        reader.join();
+    EXPECT_EQ(wrong, 0);
+    EXPECT_GT(germans, 0);
+}
+
+struct SystemLanguage {
+    QList<std::pair<QString, QString>> environment;
+    QString answer; // shown language, locale, "Trash", 12500
+};
+
+class SystemLanguageTest : public testing::TestWithParam<SystemLanguage>
+{
+};
+
+TEST_P(SystemLanguageTest, isTakenFromTheEnvironment)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString &name : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LC_NUMERIC"_s, u"LANG"_s, u"LANGUAGE"_s})
+        environment.remove(name);
+    for (const auto &[name, value] : GetParam().environment)
+        environment.insert(name, value);
+    QProcess probe;
+    probe.setProcessEnvironment(environment);
+    probe.start(QStringLiteral(SYSTEM_LANGUAGE_PROBE), QStringList());
+    ASSERT_TRUE(probe.waitForFinished());
+    EXPECT_EQ(QString::fromUtf8(probe.readAllStandardOutput()), GetParam().answer);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Environments, SystemLanguageTest,
+    testing::Values(SystemLanguage{{}, u"en|en_US|Trash|12,500"_s},
+                    SystemLanguage{{{u"LC_ALL"_s, u"C"_s}}, u"en|en_US|Trash|12,500"_s},
+                    SystemLanguage{{{u"LC_ALL"_s, u"POSIX"_s}, {u"LANGUAGE"_s, u"de"_s}}, u"en|en_US|Trash|12,500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"C.UTF-8"_s}}, u"en|en_US|Trash|12,500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"de_DE.UTF-8"_s}}, u"de|de_DE|Papierkorb|12.500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"de_CH.UTF-8"_s}}, u"de|de_CH|Papierkorb|12’500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"ja_JP.UTF-8"_s}}, u"ja|ja_JP|ゴミ箱|12,500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"en_US.UTF-8"_s}, {u"LANGUAGE"_s, u"pt:ja"_s}},
+                                   u"ja|pt_BR|ゴミ箱|12.500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"pt_BR.UTF-8"_s}}, u"en|pt_BR|Trash|12.500"_s},
+                    SystemLanguage{{{u"LANG"_s, u"xx_YY.UTF-8"_s}}, u"en|en_US|Trash|12,500"_s}));
+
+struct Region {
+    QString code;
+    AppLanguage language;
+};
+
+TEST(ChineseRegions, areMatchedByScript)
+{
+    for (const Region &region : {Region{u"zh-TW"_s, AppLanguage::zhHant}, Region{u"zh-HK"_s, AppLanguage::zhHant},
+                                 Region{u"zh-MO"_s, AppLanguage::zhHant}, Region{u"zh-Hant"_s, AppLanguage::zhHant},
+                                 Region{u"zh-CN"_s, AppLanguage::zhHans}, Region{u"zh-SG"_s, AppLanguage::zhHans},
+                                 Region{u"zh"_s, AppLanguage::zhHans}, Region{u"zh-Hans-HK"_s, AppLanguage::zhHans}}) {
+        EXPECT_EQ(LanguageManager::languageOfCode(region.code), region.language) << region.code.toStdString();
+    }
+    EXPECT_EQ(LanguageManager::languageOfCode(u"pt-BR"_s), std::nullopt);
+    EXPECT_EQ(LanguageManager::languageOfCode(u"C"_s), std::nullopt);
+}
+
+} // namespace
