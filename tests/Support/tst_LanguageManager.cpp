@@ -174,7 +174,7 @@ TEST_F(LanguageManagerTest, letsThreadsLookUpWhileTheMainThreadSwitches)
 
 struct SystemLanguage {
     QList<std::pair<QString, QString>> environment;
-    QString answer; // shown language, locale, "Trash", 12500
+    QString answer; // shown language, locale, "Trash", 12,500, 1.2 MB and a day
 };
 
 class SystemLanguageTest : public testing::TestWithParam<SystemLanguage>
@@ -197,17 +197,19 @@ TEST_P(SystemLanguageTest, isTakenFromTheEnvironment)
 
 INSTANTIATE_TEST_SUITE_P(
     Environments, SystemLanguageTest,
-    testing::Values(SystemLanguage{{}, u"en|en_US|Trash|12,500"_s},
-                    SystemLanguage{{{u"LC_ALL"_s, u"C"_s}}, u"en|en_US|Trash|12,500"_s},
-                    SystemLanguage{{{u"LC_ALL"_s, u"POSIX"_s}, {u"LANGUAGE"_s, u"de"_s}}, u"en|en_US|Trash|12,500"_s},
-                    SystemLanguage{{{u"LANG"_s, u"C.UTF-8"_s}}, u"en|en_US|Trash|12,500"_s},
-                    SystemLanguage{{{u"LANG"_s, u"de_DE.UTF-8"_s}}, u"de|de_DE|Papierkorb|12.500"_s},
-                    SystemLanguage{{{u"LANG"_s, u"de_CH.UTF-8"_s}}, u"de|de_CH|Papierkorb|12’500"_s},
-                    SystemLanguage{{{u"LANG"_s, u"ja_JP.UTF-8"_s}}, u"ja|ja_JP|ゴミ箱|12,500"_s},
+    testing::Values(SystemLanguage{{}, u"en|en_US|Trash|12,500|1.2 MB|Mar 5, 2024"_s},
+                    SystemLanguage{{{u"LC_ALL"_s, u"C"_s}}, u"en|en_US|Trash|12,500|1.2 MB|Mar 5, 2024"_s},
+                    SystemLanguage{{{u"LC_ALL"_s, u"POSIX"_s}, {u"LANGUAGE"_s, u"de"_s}},
+                                   u"en|en_US|Trash|12,500|1.2 MB|Mar 5, 2024"_s},
+                    SystemLanguage{{{u"LANG"_s, u"C.UTF-8"_s}}, u"en|en_US|Trash|12,500|1.2 MB|Mar 5, 2024"_s},
+                    SystemLanguage{{{u"LANG"_s, u"de_DE.UTF-8"_s}}, u"de|de_DE|Papierkorb|12.500|1,2 MB|05.03.2024"_s},
+                    SystemLanguage{{{u"LANG"_s, u"de_CH.UTF-8"_s}}, u"de|de_CH|Papierkorb|12’500|1.2 MB|05.03.2024"_s},
+                    SystemLanguage{{{u"LANG"_s, u"ja_JP.UTF-8"_s}}, u"ja|ja_JP|ゴミ箱|12,500|1.2 MB|2024/03/05"_s},
                     SystemLanguage{{{u"LANG"_s, u"en_US.UTF-8"_s}, {u"LANGUAGE"_s, u"pt:ja"_s}},
-                                   u"ja|pt_BR|ゴミ箱|12.500"_s},
-                    SystemLanguage{{{u"LANG"_s, u"pt_BR.UTF-8"_s}}, u"en|pt_BR|Trash|12.500"_s},
-                    SystemLanguage{{{u"LANG"_s, u"xx_YY.UTF-8"_s}}, u"en|en_US|Trash|12,500"_s}));
+                                   u"ja|pt_BR|ゴミ箱|12.500|1,2 MB|5 de mar. de 2024"_s},
+                    SystemLanguage{{{u"LANG"_s, u"pt_BR.UTF-8"_s}},
+                                   u"en|pt_BR|Trash|12.500|1,2 MB|5 de mar. de 2024"_s},
+                    SystemLanguage{{{u"LANG"_s, u"xx_YY.UTF-8"_s}}, u"en|en_US|Trash|12,500|1.2 MB|Mar 5, 2024"_s}));
 
 struct Region {
     QString code;
