@@ -55,17 +55,19 @@ QNetworkRequest requestFor(const QUrl &address)
     return request;
 }
 
-/// Ends the exchange as soon as more has come than a feed may hold.
-void limitSize(QNetworkReply *reply)
+/// Gathers what comes, and ends the exchange as soon as it is more than a feed may hold.
+std::shared_ptr<const QByteArray> bodyOf(QNetworkReply *reply)
 {
-    reply->setReadBufferSize(UpdateService::kMaxBytes + 1);
-    QObject::connect(reply, &QIODevice::readyRead, reply, [reply] {
-        if (reply->bytesAvailable() > UpdateService::kMaxBytes)
+    auto body = std::make_shared<QByteArray>();
+    QObject::connect(reply, &QIODevice::readyRead, reply, [reply, body] {
+        body->append(reply->readAll());
+        if (body->size() > UpdateService::kMaxBytes)
             reply->abort();
     });
+    return body;
 }
 
-std::expected<Answer, UpdateService::Failure> answerOf(QNetworkReply &reply)
+std::expected<Answer, UpdateService::Failure> answerOf(const QNetworkReply &reply, const QByteArray &body)
 {
     using enum UpdateService::Failure;
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -80,7 +82,7 @@ std::expected<Answer, UpdateService::Failure> answerOf(QNetworkReply &reply)
         return std::unexpected(badStatus);
     if (reply.error() != QNetworkReply::NoError || status == 0)
         return std::unexpected(unreachable);
-    return Answer{.body = reply.readAll(), .redirect = {}};
+    return Answer{.body = body, .redirect = {}};
 }
 
 /// Whether `key` is absent, or `value` was read from it: an optional field of another type spoils the feed.
@@ -175,10 +177,10 @@ UpdateService::fetchAppcast(QUrl address, std::chrono::milliseconds timeout)
         network->setProxy(address.scheme() == kHttp ? QNetworkProxy(QNetworkProxy::NoProxy)
                                                     : QNetworkProxy(QNetworkProxy::DefaultProxy));
         QNetworkReply *reply = network->get(requestFor(address));
-        limitSize(reply);
+        const std::shared_ptr<const QByteArray> body = bodyOf(reply);
         QObject::connect(deadline, &QTimer::timeout, reply, &QNetworkReply::abort);
         co_await reply;
-        const std::expected<Answer, Failure> answer = answerOf(*reply);
+        const std::expected<Answer, Failure> answer = answerOf(*reply, *body);
         if (!answer)
             co_return std::unexpected(answer.error());
         if (answer->redirect.isEmpty()) {
