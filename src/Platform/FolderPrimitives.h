@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-/// What reading folders needs of each operating system, and nothing else; only FileSystem's own sources include this.
+/// What reading folders needs of each operating system, and nothing else; only sources of Platform include this.
 /// As with the system's own calls, a negative answer leaves the reason in errno.
 namespace FolderPrimitives {
 
