@@ -7,7 +7,6 @@
 #include <QCoro/QCoroNetworkReply>
 #include <QHostAddress>
 #include <QNetworkAccessManager>
-#include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QPointer>
@@ -173,9 +172,6 @@ UpdateService::fetchAppcast(QUrl address, std::chrono::milliseconds timeout)
     deadline->setSingleShot(true);
     deadline->start(timeout);
     for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
-        // What is meant for this machine must not go through another.
-        network->setProxy(address.scheme() == kHttp ? QNetworkProxy(QNetworkProxy::NoProxy)
-                                                    : QNetworkProxy(QNetworkProxy::DefaultProxy));
         QNetworkReply *reply = network->get(requestFor(address));
         const std::shared_ptr<const QByteArray> body = bodyOf(reply);
         QObject::connect(deadline, &QTimer::timeout, reply, &QNetworkReply::abort);

@@ -6,6 +6,7 @@
 #include "TestCertificate.h"
 
 #include <QElapsedTimer>
+#include <QNetworkProxy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -699,9 +700,12 @@ void tst_UpdateService::sendsNothingForThisMachineThroughAProxy()
     const FeedServer proxy(
         [](QTcpSocket &socket, const QByteArray &) { FeedServer::answer(socket, "200 OK", feed()); });
     const FeedServer server([](QTcpSocket &socket, const QByteArray &) { FeedServer::answer(socket, "404 No", {}); });
-    qputenv("http_proxy", proxy.url(QString()).toEncoded());
+    const QUrl address = proxy.url();
+    const QNetworkProxy usual = QNetworkProxy::applicationProxy();
+    QNetworkProxy::setApplicationProxy(
+        QNetworkProxy(QNetworkProxy::HttpProxy, address.host(), static_cast<quint16>(address.port())));
     const auto answer = fetch(server.url());
-    qunsetenv("http_proxy");
+    QNetworkProxy::setApplicationProxy(usual);
     QCOMPARE(answer.error(), Failure::badStatus);
     QVERIFY(proxy.requests().isEmpty());
 }
