@@ -356,5 +356,149 @@
         <source>You're up to date!</source>
         <translation>Du bist auf dem neuesten Stand!</translation>
     </message>
+    <message>
+        <source>%lld file · %@</source>
+        <translation>%lld Datei · %@</translation>
+    </message>
+    <message>
+        <source>%lld files · %@</source>
+        <translation>%lld Dateien · %@</translation>
+    </message>
+    <message>
+        <source>%lld category · %@ reclaimable</source>
+        <translation>%lld Kategorie · %@ können freigegeben werden</translation>
+    </message>
+    <message>
+        <source>%lld categories · %@ reclaimable</source>
+        <translation>%lld Kategorien · %@ können freigegeben werden</translation>
+    </message>
+    <message>
+        <source>%lld file · %@ total</source>
+        <translation>%lld Datei · insgesamt %@</translation>
+    </message>
+    <message>
+        <source>%lld files · %@ total</source>
+        <translation>%lld Dateien · insgesamt %@</translation>
+    </message>
+    <message>
+        <source>%lld copies · %@ reclaimable</source>
+        <translation>%lld Kopien · %@ können freigegeben werden</translation>
+    </message>
+    <message>
+        <source>%lld group · %@ reclaimable</source>
+        <translation>%lld Gruppe · %@ können freigegeben werden</translation>
+    </message>
+    <message>
+        <source>%lld groups · %@ reclaimable</source>
+        <translation>%lld Gruppen · %@ können freigegeben werden</translation>
+    </message>
+    <message>
+        <source>%lld application · %@ installed</source>
+        <translation>%lld App · %@ installiert</translation>
+    </message>
+    <message>
+        <source>%lld applications · %@ installed</source>
+        <translation>%lld Apps · %@ installiert</translation>
+    </message>
+    <message>
+        <source>%lld item · %@ would be removed</source>
+        <translation>%lld Objekt · %@ würden entfernt</translation>
+    </message>
+    <message>
+        <source>%lld items · %@ would be removed</source>
+        <translation>%lld Objekte · %@ würden entfernt</translation>
+    </message>
+    <message>
+        <source>%lld items · %lld enabled</source>
+        <translation>%lld Objekte · %lld aktiviert</translation>
+    </message>
+    <message>
+        <source>No junk found</source>
+        <translation>Kein Datenmüll gefunden</translation>
+    </message>
+    <message>
+        <source>No large files found above threshold</source>
+        <translation>Keine Dateien über dem Schwellenwert gefunden</translation>
+    </message>
+    <message>
+        <source>No duplicate files found</source>
+        <translation>Keine doppelten Dateien gefunden</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>Keine Apps gefunden</translation>
+    </message>
+    <message>
+        <source>No startup items found</source>
+        <translation>Keine Startobjekte gefunden</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Unbenutzt</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Uninstaller</source>
+        <translation>Deinstallation</translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>Duplikate</translation>
+    </message>
+    <message>
+        <source>Large Files</source>
+        <translation>Große Dateien</translation>
+    </message>
+    <message>
+        <source>Junk Cleaner</source>
+        <translation>Datenmüll</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>Free disk space</source>
+        <translation>Freier Speicherplatz</translation>
+    </message>
+    <message>
+        <source>Disk Temperature</source>
+        <translation>Laufwerkstemperatur</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>Update verfügbar</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message>
+        <source>Nothing was removed.</source>
+        <translation>Es wurde nichts entfernt.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>The settings file was damaged. It is kept as %@.</source>
+        <translation>Die Einstellungsdatei war beschädigt. Sie wurde als %@ aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Too large to copy to the Trash from another disk.</source>
+        <translation>Zu groß, um von einem anderen Laufwerk in den Papierkorb kopiert zu werden.</translation>
+    </message>
 </context>
 </TS>

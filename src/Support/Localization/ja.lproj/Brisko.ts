@@ -356,5 +356,149 @@
         <source>You're up to date!</source>
         <translation>最新の状態です！</translation>
     </message>
+    <message>
+        <source>%lld file · %@</source>
+        <translation>%lld個のファイル · %@</translation>
+    </message>
+    <message>
+        <source>%lld files · %@</source>
+        <translation>%lld個のファイル · %@</translation>
+    </message>
+    <message>
+        <source>%lld category · %@ reclaimable</source>
+        <translation>%lld個のカテゴリ · %@を解放可能</translation>
+    </message>
+    <message>
+        <source>%lld categories · %@ reclaimable</source>
+        <translation>%lld個のカテゴリ · %@を解放可能</translation>
+    </message>
+    <message>
+        <source>%lld file · %@ total</source>
+        <translation>%lld個のファイル · 合計%@</translation>
+    </message>
+    <message>
+        <source>%lld files · %@ total</source>
+        <translation>%lld個のファイル · 合計%@</translation>
+    </message>
+    <message>
+        <source>%lld copies · %@ reclaimable</source>
+        <translation>%lld個のコピー · %@を解放可能</translation>
+    </message>
+    <message>
+        <source>%lld group · %@ reclaimable</source>
+        <translation>%lld個のグループ · %@を解放可能</translation>
+    </message>
+    <message>
+        <source>%lld groups · %@ reclaimable</source>
+        <translation>%lld個のグループ · %@を解放可能</translation>
+    </message>
+    <message>
+        <source>%lld application · %@ installed</source>
+        <translation>%lld個のアプリケーション · %@をインストール済み</translation>
+    </message>
+    <message>
+        <source>%lld applications · %@ installed</source>
+        <translation>%lld個のアプリケーション · %@をインストール済み</translation>
+    </message>
+    <message>
+        <source>%lld item · %@ would be removed</source>
+        <translation>%lld個の項目 · %@が削除されます</translation>
+    </message>
+    <message>
+        <source>%lld items · %@ would be removed</source>
+        <translation>%lld個の項目 · %@が削除されます</translation>
+    </message>
+    <message>
+        <source>%lld items · %lld enabled</source>
+        <translation>%lld個の項目 · %lld個が有効</translation>
+    </message>
+    <message>
+        <source>No junk found</source>
+        <translation>不要なファイルは見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>No large files found above threshold</source>
+        <translation>しきい値を超える大きなファイルは見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>No duplicate files found</source>
+        <translation>重複ファイルは見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>アプリケーションが見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>No startup items found</source>
+        <translation>起動項目が見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>Uninstaller</source>
+        <translation>アンインストーラ</translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>重複ファイル</translation>
+    </message>
+    <message>
+        <source>Large Files</source>
+        <translation>大きなファイル</translation>
+    </message>
+    <message>
+        <source>Junk Cleaner</source>
+        <translation>不要ファイルのクリーナー</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>Free disk space</source>
+        <translation>ディスクの空き容量</translation>
+    </message>
+    <message>
+        <source>Disk Temperature</source>
+        <translation>ディスクの温度</translation>
+    </message>
+    <message>
+        <source>Update Available</source>
+        <translation>アップデートがあります</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <translation>バージョン%@</translation>
+    </message>
+    <message>
+        <source>Nothing was removed.</source>
+        <translation>何も削除されませんでした。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>The settings file was damaged. It is kept as %@.</source>
+        <translation>設定ファイルが壊れていました。%@として保管されています。</translation>
+    </message>
+    <message>
+        <source>Too large to copy to the Trash from another disk.</source>
+        <translation>別のディスクからゴミ箱にコピーするには大きすぎます。</translation>
+    </message>
 </context>
 </TS>
