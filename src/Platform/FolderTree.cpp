@@ -113,13 +113,14 @@ FileURL FolderTree::urlOf(const Folder &folder) const
         way.push_back(at);
         length += at->length + 1;
     }
+    if (way.empty())
+        return at->url;
     QByteArray path = at->url.path();
     path.reserve(path.size() + length);
-    for (auto step = way.rbegin(); step != way.rend(); ++step) {
-        if (!path.endsWith('/'))
-            path.append('/');
-        path.append((*step)->parent->names.data() + (*step)->name, (*step)->length);
-    }
+    if (path.endsWith('/'))
+        path.chop(1);
+    for (auto step = way.rbegin(); step != way.rend(); ++step)
+        path.append('/').append((*step)->parent->names.data() + (*step)->name, (*step)->length);
     return FileURL::fromCleanPath(std::move(path));
 }
 
@@ -333,10 +334,9 @@ void FolderTree::read(Folder &folder, Desk &desk)
 {
     if (m_cancel.isCancelled())
         return;
-    if (m_purpose == Purpose::walk && folder.parent) {
+    if (m_purpose == Purpose::walk && folder.parent && !folder.parent->url.isEmpty()) {
         const Folder &parent = *folder.parent;
-        FileURL url =
-            parent.url.isEmpty() ? urlOf(folder) : parent.url.child({parent.names.data() + folder.name, folder.length});
+        FileURL url = parent.url.child({parent.names.data() + folder.name, folder.length});
         if (url.path().size() <= kLongestKept)
             folder.url = std::move(url);
     }

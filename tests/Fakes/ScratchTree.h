@@ -9,9 +9,11 @@
 #include <QTemporaryDir>
 
 #include <fcntl.h>
+#include <ftw.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <initializer_list>
 #include <stdexcept>
@@ -27,8 +29,17 @@ public:
         // Links on the way to the temporary folder are resolved, so that paths compare equal to what scans answer.
         char *real = ::realpath(QFile::encodeName(m_folder.path()).constData(), nullptr);
         m_root = FileURL::fromPath(real).value();
+        m_folder.setAutoRemove(false);
         std::free(real); // NOLINT: realpath allocates with malloc
     }
+
+    ~ScratchTree()
+    {
+        // By bytes: QTemporaryDir leaves behind what it cannot name.
+        const auto removeOne = [](const char *path, const struct stat *, int, FTW *) { return ::remove(path), 0; };
+        ::nftw(m_root.path().constData(), removeOne, 16, FTW_DEPTH | FTW_PHYS | FTW_MOUNT);
+    }
+    Q_DISABLE_COPY_MOVE(ScratchTree)
 
     [[nodiscard]] const FileURL &root() const { return m_root; }
     [[nodiscard]] FileURL at(QByteArrayView relative) const { return m_root.appending(relative); }
@@ -85,7 +96,8 @@ public:
 
     static bool exists(const FileURL &item)
     {
-        struct stat status{};
+        struct stat status {
+        };
         return ::lstat(item.path().constData(), &status) == 0;
     }
 
