@@ -66,8 +66,19 @@ bool isSound(const QByteArray &content)
     return std::all_of(lines.cbegin(), lines.cend(), [](const QByteArray &line) { return isSoundLine(line); });
 }
 
+/// Whether the settings writer can take its lock. It waits without end for one that it can neither make nor remove.
+bool isLockable(const QString &file)
+{
+    struct stat status {
+    };
+    const QByteArray lock = QFile::encodeName(file) + ".lock";
+    return ::lstat(lock.constData(), &status) != 0 || S_ISREG(status.st_mode);
+}
+
 Condition conditionOf(const QString &file)
 {
+    if (!isLockable(file))
+        return Condition::unusable;
     const auto content = OwnFiles::read(urlOf(file), kMaxBytes);
     if (content)
         return isSound(*content) ? Condition::usable : Condition::broken;
@@ -131,9 +142,7 @@ QVariant UserDefaults::value(const QString &key) const
 
 int UserDefaults::integer(const QString &key) const
 {
-    bool isNumber = false;
-    const int number = value(key).toInt(&isNumber);
-    return isNumber ? number : 0;
+    return text(key).value_or(QString()).toInt();
 }
 
 std::optional<QString> UserDefaults::text(const QString &key) const
@@ -165,27 +174,34 @@ bool UserDefaults::contains(const QString &key) const
 
 void UserDefaults::setInteger(const QString &key, int value)
 {
-    setValue(key, value);
+    prepareChange();
+    if (text(key) != QString::number(value))
+        store(key, value);
 }
 
 void UserDefaults::setText(const QString &key, const QString &value)
 {
-    setValue(key, value);
+    prepareChange();
+    if (text(key) != value)
+        store(key, value);
 }
 
 void UserDefaults::setTextList(const QString &key, const QStringList &value)
 {
-    setValue(key, value);
+    prepareChange();
+    if (!contains(key) || data(key) || textList(key) != value)
+        store(key, value);
 }
 
 void UserDefaults::setData(const QString &key, const QByteArray &value)
 {
-    setValue(key, value);
+    prepareChange();
+    if (data(key) != value)
+        store(key, value);
 }
 
-void UserDefaults::setValue(const QString &key, const QVariant &value)
+void UserDefaults::store(const QString &key, const QVariant &value)
 {
-    prepareChange();
     if (!m_settings) {
         m_memory.insert(key, value);
         return;
@@ -196,9 +212,9 @@ void UserDefaults::setValue(const QString &key, const QVariant &value)
 
 void UserDefaults::remove(const QString &key)
 {
+    prepareChange();
     if (!contains(key))
         return;
-    prepareChange();
     if (!m_settings) {
         m_memory.remove(key);
         return;
@@ -216,15 +232,17 @@ void UserDefaults::remove(const QString &key)
     write();
 }
 
-/// Another program may have spoilt the file, or its place, since it was last looked at.
+/// Looks again before a change: other programs may have changed the file since, or spoilt it, or its place.
 void UserDefaults::prepareChange()
 {
     if (!m_settings)
         return;
     const std::optional<QString> before = m_brokenCopy;
     const bool usable = makeUsable();
-    if (usable && m_brokenCopy == before)
+    if (usable && m_brokenCopy == before) {
+        m_settings->sync(); // what is set already need not be written again
         return;
+    }
     const QStringList keys = m_settings->allKeys();
     for (const QString &key : keys)
         m_memory.insert(key, m_settings->value(key));
@@ -236,6 +254,7 @@ void UserDefaults::prepareChange()
     for (auto known = m_memory.cbegin(); known != m_memory.cend(); ++known)
         m_settings->setValue(known.key(), known.value());
     m_memory.clear();
+    write();
 }
 
 void UserDefaults::write()

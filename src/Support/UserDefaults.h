@@ -50,8 +50,8 @@ public:
 
 private:
     [[nodiscard]] QVariant value(const QString &key) const;
-    void setValue(const QString &key, const QVariant &value);
     void prepareChange();
+    void store(const QString &key, const QVariant &value);
     void write();
     [[nodiscard]] bool makeUsable();
 

@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <limits>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -101,6 +104,7 @@ TEST_F(UserDefaultsTest, answersTheSameForAnotherTypeBeforeAndAfterTheFile)
     defaults.setText(u"digits"_s, u"12"_s);
     defaults.setTextList(u"list"_s, {u"a"_s, u"b"_s});
     defaults.setData(u"data"_s, "x");
+    defaults.setData(u"dataDigits"_s, "7");
     const UserDefaults reread(freshCopy());
     for (const UserDefaults *store : {&std::as_const(defaults), &reread}) {
         EXPECT_EQ(store->text(u"number"_s), u"5"_s);
@@ -112,6 +116,7 @@ TEST_F(UserDefaultsTest, answersTheSameForAnotherTypeBeforeAndAfterTheFile)
         EXPECT_EQ(store->textList(u"data"_s), QStringList());
         EXPECT_EQ(store->data(u"text"_s), std::nullopt);
         EXPECT_EQ(store->integer(u"list"_s), 0);
+        EXPECT_EQ(store->integer(u"dataDigits"_s), 0);
     }
 }
 
@@ -178,6 +183,64 @@ TEST_F(UserDefaultsTest, removesOneKeyAndNotThoseBelowIt)
     }
     defaults.remove(u"com.brisko.bookmark."_s); // a group to the file, but no key
     EXPECT_EQ(defaults.data(inner), "inner");
+}
+
+TEST_F(UserDefaultsTest, writesNothingForAValueThatIsThere)
+{
+    const auto setAll = [](UserDefaults &defaults) {
+        defaults.setInteger(u"integer"_s, 0);
+        defaults.setText(u"text"_s, QString());
+        defaults.setTextList(u"one"_s, {u"a"_s});
+        defaults.setTextList(u"none"_s, {});
+        defaults.setData(u"data"_s, QByteArray());
+        defaults.remove(u"absent"_s);
+    };
+    UserDefaults defaults(path());
+    setAll(defaults);
+    struct stat before {
+    };
+    ASSERT_EQ(::stat(file.path().constData(), &before), 0);
+    setAll(defaults);
+    {
+        UserDefaults another(QString(path()).replace(u"Brisko.conf"_s, u"./Brisko.conf"_s));
+        setAll(another);
+    }
+    struct stat after {
+    };
+    ASSERT_EQ(::stat(file.path().constData(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino); // every write puts a new file in the place
+}
+
+TEST_F(UserDefaultsTest, seesWhatAnotherProcessChangedBeforeItDecidesWhetherToWrite)
+{
+    UserDefaults defaults(path());
+    defaults.setInteger(u"appearance"_s, 1);
+    spoil("[General]\nappearance=2\nother=there\n");
+    defaults.setInteger(u"appearance"_s, 1);
+    const UserDefaults reread(freshCopy());
+    EXPECT_EQ(reread.integer(u"appearance"_s), 1);
+    EXPECT_EQ(reread.text(u"other"_s), u"there"_s);
+}
+
+TEST_F(UserDefaultsTest, keepsTheOldFileWholeWhenTheDiskIsFull)
+{
+    UserDefaults(path()).setText(u"a"_s, u"old"_s);
+    const QByteArray before = ScratchTree::content(file);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        // No file of this process may grow beyond a few bytes: writing ends as on a full disk.
+        ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit few{.rlim_cur = 16, .rlim_max = 16};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+        UserDefaults defaults(path());
+        defaults.setText(u"a"_s, QString(1000, u'x'));
+        ::_exit(defaults.text(u"a"_s) == QString(1000, u'x') ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(ScratchTree::content(file), before);
 }
 
 TEST_F(UserDefaultsTest, isForTheUserAlone)
@@ -376,6 +439,16 @@ TEST_F(UserDefaultsTest, doesNotWaitForAPipeInItsPlace)
     EXPECT_FALSE(defaults.isKept());
     defaults.setText(u"a"_s, u"b"_s);
     EXPECT_EQ(defaults.text(u"a"_s), u"b"_s);
+}
+
+TEST_F(UserDefaultsTest, doesNotWaitForALockThatNobodyHolds)
+{
+    tree.folder("config/Brisko/Brisko.conf.lock");
+    UserDefaults defaults(path());
+    EXPECT_FALSE(defaults.isKept());
+    defaults.setText(u"a"_s, u"b"_s);
+    EXPECT_EQ(defaults.text(u"a"_s), u"b"_s);
+    EXPECT_TRUE(ScratchTree::exists(tree.at("config/Brisko/Brisko.conf.lock")));
 }
 
 TEST_F(UserDefaultsTest, followsALinkToTheRealFile)
