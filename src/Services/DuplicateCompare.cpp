@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include "Services/DuplicateCompare.h"
+
+#include "Services/CompareContext.h"
+#include "Services/DuplicateTables.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace DuplicateCompare {
+
+namespace {
+
+/// What a reader takes at a time: whole sizes, or a slice of one that very many files have.
+struct Batch {
+    quint32 from = 0; // positions of units
+    quint32 to = 0;
+    std::shared_ptr<SmallFiles> small; // set for a slice
+    std::shared_ptr<LargeFiles> large;
+};
+
+std::vector<Batch> makeBatches(Context &context)
+{
+    const auto count = static_cast<quint32>(context.units().size());
+    std::vector<Batch> batches;
+    for (quint32 from = 0, to = 0; from < count; from = to) {
+        const qint64 size = context.sizeOf(from);
+        quint32 names = 0;
+        for (to = from; to < count && context.sizeOf(to) == size; ++to)
+            names += context.units()[to].names;
+        if (names < 2) {
+            context.drop(from);
+        } else if (to - from > kSlice) {
+            const auto slices = static_cast<int>((to - from + kSlice - 1) / kSlice);
+            Batch batch;
+            if (size <= kPrefix)
+                batch.small = std::make_shared<SmallFiles>(context, size, slices);
+            else
+                batch.large = std::make_shared<LargeFiles>(context, size, slices);
+            for (batch.from = from; batch.from < to; batch.from = batch.to) {
+                batch.to = std::min(batch.from + kSlice, to);
+                batches.push_back(batch);
+            }
+        } else if (Batch *last = batches.empty() ? nullptr : &batches.back();
+                   last && last->to == from && !last->small && !last->large && to - last->from <= kSlice) {
+            last->to = to;
+        } else {
+            batches.push_back({.from = from, .to = to, .small = {}, .large = {}});
+        }
+    }
+    return batches;
+}
+
+/// Reads the beginnings of files, batch by batch.
+class Reader
+{
+public:
+    explicit Reader(Context &context)
+        : m_context(context)
+    {
+    }
+
+    void take(const Batch &batch)
+    {
+        if (!m_memory)
+            m_memory = std::make_unique_for_overwrite<char[]>(kSlice * kPrefix);
+        open(batch);
+        std::vector<Beginning> files;
+        for (Opened &opened : m_opened) {
+            if (m_context.isCancelled())
+                break;
+            if (complete(opened))
+                files.push_back(beginning(opened));
+            else
+                m_context.drop(opened.unit);
+        }
+        m_opened.clear();
+        m_lease.giveBack();
+        if (!m_context.isCancelled())
+            sort(batch, files);
+    }
+
+    /// Whether the batch last taken had to come from the disk.
+    [[nodiscard]] bool hadToWait() const { return m_isWaiting; }
+
+private:
+    struct Opened {
+        quint32 unit = 0;
+        OpenFile file;
+        char *bytes = nullptr;
+        qint64 have = 0;
+        qint64 wanted = 0;
+    };
+
+    /// Opens all files first, and reads what is at hand: what the disk has to bring is then on its way all at once.
+    void open(const Batch &batch)
+    {
+        m_isWaiting = false;
+        m_lease = m_context.descriptors.take(batch.to - batch.from);
+        for (quint32 unit = batch.from; unit < batch.to; ++unit) {
+            if (m_context.isCancelled())
+                break;
+            auto file = m_context.open(unit);
+            if (!file) {
+                m_context.drop(unit);
+                continue;
+            }
+            char *bytes = m_memory.get() + (unit - batch.from) * kPrefix;
+            const qint64 wanted = std::min(m_context.sizeOf(unit), kPrefix);
+            const qint64 have = m_context.readCached(*file, bytes, wanted, 0);
+            constexpr qint64 likelyNeeded = 64 * 1024;
+            if (have < wanted) {
+                FileReading::prefetch(file->descriptor.get(), 0, likelyNeeded);
+                m_isWaiting = true;
+            }
+            m_opened.push_back(
+                {.unit = unit, .file = *std::move(file), .bytes = bytes, .have = have, .wanted = wanted});
+        }
+    }
+
+    bool complete(Opened &opened)
+    {
+        const qint64 missing = opened.wanted - opened.have;
+        if (missing > 0 && !m_context.read(opened.file, opened.bytes + opened.have, missing, opened.have))
+            return false;
+        return opened.wanted < opened.file.stamp.size || opened.file.isUnchanged();
+    }
+
+    Beginning beginning(Opened &opened)
+    {
+        const FileReading::Stamp stamp = opened.file.stamp;
+        if (opened.wanted == stamp.size)
+            opened.file.close();
+        else
+            opened.file.lease = m_lease.split(1);
+        return {.unit = opened.unit,
+                .file = std::move(opened.file),
+                .stamp = stamp,
+                .bytes = opened.bytes,
+                .hash = qHashBits(opened.bytes, static_cast<size_t>(opened.wanted), m_context.seed)};
+    }
+
+    /// Hands the files of each size to their table, and what that leaves to do to the workers.
+    void sort(const Batch &batch, std::span<Beginning> files)
+    {
+        std::vector<Work> together;
+        const auto hand = [&](qint64 size, std::vector<Work> work) {
+            constexpr qint64 alone = 1024 * 1024; // bytes; comparing shorter files is less work than handing it over
+            for (Work &one : work) {
+                if (size >= alone)
+                    m_context.start(std::move(one));
+                else
+                    together.push_back(std::move(one));
+            }
+        };
+        if (batch.small) {
+            hand(0, batch.small->add(files));
+        } else if (batch.large) {
+            hand(m_context.sizeOf(batch.from), batch.large->add(files));
+        } else {
+            for (size_t from = 0, to = 0; from < files.size(); from = to) {
+                const qint64 size = m_context.sizeOf(files[from].unit);
+                for (to = from; to < files.size() && m_context.sizeOf(files[to].unit) == size;)
+                    ++to;
+                const auto part = files.subspan(from, to - from);
+                hand(size, size <= kPrefix ? std::make_shared<SmallFiles>(m_context, size, 1)->add(part)
+                                           : std::make_shared<LargeFiles>(m_context, size, 1)->add(part));
+            }
+        }
+        if (together.empty())
+            return;
+        m_context.start([work = std::move(together)] {
+            for (const Work &one : work)
+                one();
+        });
+    }
+
+    Context &m_context;
+    std::unique_ptr<char[]> m_memory;
+    std::vector<Opened> m_opened;
+    Budget::Share m_lease; // for the files of the batch in hand
+    bool m_isWaiting = false;
+};
+
+/// Reads all batches. What lies in memory keeps the processors busy enough with as many readers; more of them come
+/// only once the disk has to be waited for.
+void readAll(Context &context, const std::vector<Batch> &batches, const Limits &limits)
+{
+    std::atomic<size_t> next = 0;
+    std::atomic<int> started = std::min(limits.workers, limits.readers);
+    QThreadPool pool;
+    pool.setMaxThreadCount(limits.readers);
+    std::function<void()> read;
+    read = [&] {
+        Reader reader(context);
+        for (size_t at = next++; at < batches.size() && !context.isCancelled(); at = next++) {
+            reader.take(batches[at]);
+            if (reader.hadToWait() && started < limits.readers && started++ < limits.readers)
+                pool.start(read);
+        }
+    };
+    for (int count = started; count > 0; --count)
+        pool.start(read);
+    pool.waitForDone();
+}
+
+} // namespace
+
+Limits limitsFor(int processors, qsizetype candidates)
+{
+    constexpr int fewestWorkers = 2;
+    constexpr int mostWorkers = 6;
+    constexpr int mostDescriptors = 256;
+    constexpr int fewestDescriptors = 32;
+    constexpr qint64 memoryAlways = 2 * 1024 * 1024;
+    constexpr qint64 memoryPerCandidate = 256;
+    return {.workers = std::clamp(processors, fewestWorkers, mostWorkers),
+            .readers = 6,
+            .descriptors = std::clamp(FileReading::descriptorLimit() / 2, fewestDescriptors, mostDescriptors),
+            .memory = memoryAlways + memoryPerCandidate * candidates};
+}
+
+std::vector<EqualSet> equalSets(const std::vector<Candidate> &candidates, const Limits &limits, const Settled &settled,
+                                const CancelToken &cancel, Cost *cost)
+{
+    Context context(candidates, limits, settled, cancel);
+    const std::vector<Batch> batches = makeBatches(context);
+    readAll(context, batches, limits);
+    context.waitForWorkers();
+    if (cost)
+        *cost = context.cost();
+    return context.takeResults();
+}
+
+} // namespace DuplicateCompare
