@@ -20,7 +20,11 @@
 class FakePlaces : public Places
 {
 public:
-    explicit FakePlaces(const FileURL &homeFolder) : m_home(homeFolder), m_accountHome(homeFolder) {}
+    explicit FakePlaces(const FileURL &homeFolder)
+        : m_home(homeFolder)
+        , m_accountHome(homeFolder)
+    {
+    }
 
     [[nodiscard]] std::optional<FileURL> home() const override { return m_home; }
     [[nodiscard]] std::optional<FileURL> accountHome() const override { return m_accountHome; }
@@ -92,7 +96,10 @@ private:
 class FakeTrashCan : public TrashCan
 {
 public:
-    explicit FakeTrashCan(const FileURL &folder) : m_folder(folder) {}
+    explicit FakeTrashCan(const FileURL &folder)
+        : m_folder(folder)
+    {
+    }
 
     [[nodiscard]] std::unique_ptr<TrashBatch> begin() const override { return std::make_unique<Batch>(this); }
 
@@ -118,7 +125,10 @@ private:
     class Batch : public TrashBatch
     {
     public:
-        explicit Batch(const FakeTrashCan *can) : m_can(can) {}
+        explicit Batch(const FakeTrashCan *can)
+            : m_can(can)
+        {
+        }
         std::expected<FileURL, std::error_code> moveToTrash(const FileURL &item) override
         {
             if (const std::error_code refusal = m_can->answer(item))
@@ -132,7 +142,8 @@ private:
         {
             if (const std::error_code refusal = m_can->answer(item))
                 return std::unexpected(refusal);
-            struct stat status{};
+            struct stat status {
+            };
             if (::lstat(item.path().constData(), &status) != 0)
                 return std::unexpected(std::error_code(errno, std::generic_category()));
             if (S_ISDIR(status.st_mode)) {

@@ -411,9 +411,8 @@ void tst_AppStateRemovals::togglesAUserLevelItem()
     StateFixture::wait(state.toggleStartupItem(state.startupItems().first()));
     QVERIFY(!state.startupItems().first().isEnabled);
     QCOMPARE(f.fakes.propertyList->tables.value(file).boolean(u"Disabled"_s), true);
-    QCOMPARE(state.toast(), (ToastData{.symbol = u"pause.circle.fill"_s,
-                                       .tintHex = 0xF59E0B,
-                                       .message = u"org.sample disabled"_s}));
+    QCOMPARE(state.toast(),
+             (ToastData{.symbol = u"pause.circle.fill"_s, .tintHex = 0xF59E0B, .message = u"org.sample disabled"_s}));
     StateFixture::wait(state.toggleStartupItem(state.startupItems().first()));
     QCOMPARE(state.toast()->message, u"org.sample enabled"_s);
     QVERIFY(state.startupItems().first().isEnabled);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "Services/UpdateService.h"
 #include "State/StateFixture.h"
 
 #include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -21,9 +24,49 @@ private Q_SLOTS:
     void saysWhenTheUpdateServerCannotBeReached();
     void staysQuietAboutItWhenSilent();
     void checksOnceAtATime();
+    void offersANewerVersion();
+    void saysWhenThereIsNoNewerVersion();
+    void keepsASkippedVersionHidden();
+    void handsTheDownloadToTheDesktop();
 };
 
 namespace {
+
+/// A true server on the loopback that answers every request with one body.
+class FeedServer : public QTcpServer
+{
+public:
+    explicit FeedServer(const QString &version)
+    {
+        const QByteArray body = QStringLiteral(R"({"latestVersion":"%1","downloadURL":"https://example.org/b.dmg",)"
+                                               R"("releaseNotes":{"en":"New"},"criticalUpdate":false})")
+                                    .arg(version)
+                                    .toUtf8();
+        m_answer = "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size()) +
+                   "\r\n\r\n" + body;
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+                m_asked += socket->readAll();
+                if (!m_asked.endsWith("\r\n\r\n"))
+                    return;
+                socket->write(m_answer);
+                socket->disconnectFromHost();
+            });
+            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+        });
+        listen(QHostAddress::LocalHost);
+    }
+    [[nodiscard]] std::function<std::expected<QUrl, QString>()> address() const
+    {
+        const QUrl url(QStringLiteral("http://127.0.0.1:%1/appcast.json").arg(serverPort()));
+        return [url] { return std::expected<QUrl, QString>(url); };
+    }
+
+private:
+    QByteArray m_answer;
+    QByteArray m_asked; // what came of the request so far
+};
 
 void giveASensor(const StateFixture &f, std::atomic<int> &reads)
 {
@@ -120,9 +163,10 @@ void tst_AppStateStats::saysWhenTheUpdateServerCannotBeReached()
     AppState &state = f.make();
     QSignalSpy checking(&state, &AppState::isCheckingForUpdatesChanged);
     QCOMPARE(StateFixture::wait(state.checkForUpdates(false)), UpdateOutcome::unreachable);
-    QCOMPARE(state.toast(), (ToastData{.symbol = u"wifi.exclamationmark"_s,
-                                       .tintHex = 0xF59E0B,
-                                       .message = u"Can't reach the update server. Check your network and try again."_s}));
+    QCOMPARE(state.toast(),
+             (ToastData{.symbol = u"wifi.exclamationmark"_s,
+                        .tintHex = 0xF59E0B,
+                        .message = u"Can't reach the update server. Check your network and try again."_s}));
     QCOMPARE(checking.count(), 2);
     QVERIFY(!state.updateInfo());
 }
@@ -144,6 +188,58 @@ void tst_AppStateStats::checksOnceAtATime()
     QCOMPARE(StateFixture::wait(state.checkForUpdates(false)), UpdateOutcome::alreadyChecking);
     QCOMPARE(QCoro::waitFor(first), UpdateOutcome::unreachable);
     QVERIFY(!state.isCheckingForUpdates());
+}
+
+void tst_AppStateStats::offersANewerVersion()
+{
+    StateFixture f;
+    const FeedServer server(u"99.0.10"_s);
+    f.appcastURL = server.address();
+    AppState &state = f.make();
+    QCOMPARE(StateFixture::wait(state.checkForUpdates(true)), UpdateOutcome::available);
+    QCOMPARE(state.updateInfo()->latestVersion, u"99.0.10"_s);
+    QVERIFY(!state.toast());
+}
+
+void tst_AppStateStats::saysWhenThereIsNoNewerVersion()
+{
+    StateFixture f;
+    const FeedServer server(UpdateService::currentVersion());
+    f.appcastURL = server.address();
+    AppState &state = f.make();
+    QCOMPARE(StateFixture::wait(state.checkForUpdates(true)), UpdateOutcome::upToDate);
+    QVERIFY2(!state.toast(), "a silent check says nothing");
+    QCOMPARE(StateFixture::wait(state.checkForUpdates(false)), UpdateOutcome::upToDate);
+    QCOMPARE(state.toast(),
+             (ToastData{.symbol = u"checkmark.seal.fill"_s, .tintHex = 0x22C55E, .message = u"You're up to date!"_s}));
+}
+
+void tst_AppStateStats::keepsASkippedVersionHidden()
+{
+    StateFixture f;
+    const FeedServer server(u"99.1"_s);
+    f.appcastURL = server.address();
+    AppState &state = f.make();
+    StateFixture::wait(state.checkForUpdates(false));
+    state.skipUpdate();
+    QVERIFY(!state.updateInfo());
+    QCOMPARE(f.defaults.text(DefaultsKey::skippedUpdateVersion), u"99.1"_s);
+    QCOMPARE(StateFixture::wait(state.checkForUpdates(false)), UpdateOutcome::skipped);
+    QVERIFY(!state.updateInfo() && !state.toast());
+}
+
+void tst_AppStateStats::handsTheDownloadToTheDesktop()
+{
+    StateFixture f;
+    const FeedServer server(u"99.2"_s);
+    f.appcastURL = server.address();
+    AppState &state = f.make();
+    StateFixture::wait(state.checkForUpdates(true));
+    state.downloadUpdate();
+    QCOMPARE(f.fakes.workspace->opened, QList<QUrl>{QUrl(u"https://example.org/b.dmg"_s)});
+    QVERIFY(!state.updateInfo());
+    state.downloadUpdate();
+    QCOMPARE(f.fakes.workspace->opened.size(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_AppStateStats)

@@ -174,7 +174,10 @@ TEST(Outcomes, areOneOfThree)
     const QString skipped = u"8 KB freed, but 2 protected items were skipped (such as diagnostic reports or sandbox "
                             u"data). You can remove them manually in Finder."_s;
     const QList<OutcomeCase> cases{
-        {"all went", {.removedCount = 2, .failedCount = 0, .bytes = 10, .firstError = {}, .partialTitle = {}}, true, {}},
+        {"all went",
+         {.removedCount = 2, .failedCount = 0, .bytes = 10, .firstError = {}, .partialTitle = {}},
+         true,
+         {}},
         {"some went",
          {.removedCount = 8, .failedCount = 2, .bytes = 8'000, .firstError = denied, .partialTitle = {}},
          false,
@@ -199,8 +202,12 @@ TEST(Outcomes, areOneOfThree)
 
 TEST(Outcomes, nameTheCountWhereTheToastDoes)
 {
-    Outcomes::Facts facts{
-        .removedCount = 3, .failedCount = 0, .bytes = 1'200'000, .firstError = {}, .partialTitle = {}, .countInToast = true};
+    Outcomes::Facts facts{.removedCount = 3,
+                          .failedCount = 0,
+                          .bytes = 1'200'000,
+                          .firstError = {},
+                          .partialTitle = {},
+                          .countInToast = true};
     EXPECT_EQ(Outcomes::outcomeOf(facts, Outcomes::duplicates).toast,
               (ToastData{.symbol = u"checkmark.circle.fill"_s,
                          .tintHex = 0x22C55E,
