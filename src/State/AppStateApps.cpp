@@ -87,10 +87,11 @@ QCoro::Task<> AppState::runAppScan(QPointer<AppState> self)
         self->setScanDetail(Text::lookup(u"No usable home folder"));
         Q_EMIT self->noUsableHome();
     }
-    QList<InstalledApp> found = co_await QtConcurrent::run(
-        &self->m_environment.pools->userInitiated, [platform = self->m_environment.platform] {
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated, [platform = self->m_environment.platform] {
             return platform->places->home() ? AppScanService::listApps(*platform) : QList<InstalledApp>{};
         });
+    QList<InstalledApp> found = co_await work;
     if (!run.goesOn())
         co_return;
     self->m_detailsTask.cancel();
@@ -124,10 +125,11 @@ void AppState::startDetails()
 
 QCoro::Task<> AppState::measureApp(QPointer<AppState> self, CancelToken cancel, InstalledApp app)
 {
-    const AppScanService::Details details = co_await QtConcurrent::run(
-        &self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, app, cancel] {
-            return AppScanService::computeDetails(*platform, app, cancel);
-        });
+    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                                        [platform = self->m_environment.platform, app, cancel] {
+                                            return AppScanService::computeDetails(*platform, app, cancel);
+                                        });
+    const AppScanService::Details details = co_await work;
     if (self && !cancel.isCancelled())
         self->takeDetails(cancel, app.url, details.size, details.related);
 }
@@ -165,11 +167,10 @@ QCoro::Task<RemovalReport> AppState::runUninstall(QPointer<AppState> self, QSet<
     if (apps.isEmpty())
         co_return {};
 
-    const TrashResult result =
-        co_await QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                   [platform = self->m_environment.platform, items = itemsOf(apps), stop = run.stop()] {
-                                       return TrashService::trash(*platform, items, stop);
-                                   });
+    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                                        [platform = self->m_environment.platform, items = itemsOf(apps),
+                                         stop = run.stop()] { return TrashService::trash(*platform, items, stop); });
+    const TrashResult result = co_await work;
     const QList<InstalledApp> removed = RemovalReports::without(apps, RemovalReports::stayed(result));
     RemovalReport report = reportOf(apps, removed, result, self ? self->m_environment.now() : QDateTime());
     if (!self)

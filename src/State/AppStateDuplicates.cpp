@@ -59,11 +59,12 @@ QCoro::Task<> AppState::runDuplicateScan(QPointer<AppState> self, std::optional<
         self->setScanDetail(Text::lookup(u"No usable home folder"));
         Q_EMIT self->noUsableHome();
     }
-    QList<DuplicateGroup> found =
-        co_await QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                   [options, progress = self->progressOf(self->m_duplicatesLane), stop = run.stop()] {
-                                       return DuplicateScanService::scanSync(options, progress, stop);
-                                   });
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                          [options, progress = self->progressOf(self->m_duplicatesLane), stop = run.stop()] {
+                              return DuplicateScanService::scanSync(options, progress, stop);
+                          });
+    QList<DuplicateGroup> found = co_await work;
     if (run.goesOn())
         self->publish(self->m_duplicateGroups, std::move(found), &AppState::duplicateGroupsChanged);
 }
@@ -89,10 +90,10 @@ QCoro::Task<RemovalReport> AppState::runDuplicateRemoval(QPointer<AppState> self
     if (files.isEmpty())
         co_return {};
 
-    const TrashResult result =
-        co_await QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                   [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
-                                    stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
+    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                                        [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
+                                         stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
+    const TrashResult result = co_await work;
     const QList<DuplicateFile> removed = RemovalReports::without(files, RemovalReports::stayed(result));
     const qint64 count = removed.size();
     const qint64 freed = Totals::sizeOf(removed);

@@ -96,10 +96,10 @@ bool AppState::detectFullDiskAccess(const Platform &platform)
 
 QCoro::Task<> AppState::probeFullDiskAccess(QPointer<AppState> self)
 {
-    const bool hasAccess =
-        co_await QtConcurrent::run(&self->m_environment.pools->utility, [platform = self->m_environment.platform] {
-            return detectFullDiskAccess(*platform);
-        });
+    const auto work = QtConcurrent::run(&self->m_environment.pools->utility, [platform = self->m_environment.platform] {
+        return detectFullDiskAccess(*platform);
+    });
+    const bool hasAccess = co_await work;
     if (self)
         self->publish(self->m_needsFullDiskAccess, !hasAccess, &AppState::needsFullDiskAccessChanged);
 }

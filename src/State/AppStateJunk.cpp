@@ -62,13 +62,14 @@ QCoro::Task<RemovalReport> AppState::runJunkRemoval(QPointer<AppState> self, QUu
         co_return {};
     const JunkCategory category = *found;
 
-    const TrashResult result =
-        co_await QtConcurrent::run(&self->m_environment.pools->userInitiated, [platform = self->m_environment.platform,
-                                                                               category, stop = run.stop()] {
-            const QList<FileURL> urls = RemovalReports::urlsOf(category.files);
-            return category.deletesDirectly ? TrashService::deletePermanently(*platform, urls, stop)
-                                            : TrashService::trash(*platform, urls, stop);
-        });
+    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                                        [platform = self->m_environment.platform, category, stop = run.stop()] {
+                                            const QList<FileURL> urls = RemovalReports::urlsOf(category.files);
+                                            return category.deletesDirectly
+                                                       ? TrashService::deletePermanently(*platform, urls, stop)
+                                                       : TrashService::trash(*platform, urls, stop);
+                                        });
+    const TrashResult result = co_await work;
     const QList<JunkFile> removed = RemovalReports::without(category.files, RemovalReports::stayed(result));
     const qint64 freed = Totals::sizeOf(removed);
     RemovalReport report = RemovalReports::reportOf(result, RemovalReports::sizesOf(category.files));

@@ -41,11 +41,12 @@ QCoro::Task<> AppState::runLargeFileScan(QPointer<AppState> self, std::optional<
         self->setScanDetail(Text::lookup(u"No usable home folder"));
         Q_EMIT self->noUsableHome();
     }
-    QList<LargeFile> found =
-        co_await QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                   [options, progress = self->progressOf(self->m_largeFilesLane), stop = run.stop()] {
-                                       return LargeFileScanService::scanSync(options, progress, stop);
-                                   });
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                          [options, progress = self->progressOf(self->m_largeFilesLane), stop = run.stop()] {
+                              return LargeFileScanService::scanSync(options, progress, stop);
+                          });
+    QList<LargeFile> found = co_await work;
     if (run.goesOn())
         self->publish(self->m_largeFiles, std::move(found), &AppState::largeFilesChanged);
 }
@@ -67,10 +68,10 @@ QCoro::Task<RemovalReport> AppState::runLargeFileRemoval(QPointer<AppState> self
     if (files.isEmpty())
         co_return {};
 
-    const TrashResult result =
-        co_await QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                   [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
-                                    stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
+    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
+                                        [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
+                                         stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
+    const TrashResult result = co_await work;
     const QList<LargeFile> removed = RemovalReports::without(files, RemovalReports::stayed(result));
     const qint64 count = removed.size();
     const qint64 freed = Totals::sizeOf(removed);

@@ -32,10 +32,11 @@ QCoro::Task<> AppState::runStartupScan(QPointer<AppState> self)
         co_return;
     if (!self->hasUsableHome())
         Q_EMIT self->noUsableHome();
-    QList<StartupItem> found = co_await QtConcurrent::run(
-        &self->m_environment.pools->userInitiated, [platform = self->m_environment.platform] {
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated, [platform = self->m_environment.platform] {
             return platform->places->home() ? StartupScanService::scanSync(*platform) : QList<StartupItem>{};
         });
+    QList<StartupItem> found = co_await work;
     if (run.goesOn())
         self->publish(self->m_startupItems, std::move(found), &AppState::startupItemsChanged);
 }
@@ -55,9 +56,11 @@ QCoro::Task<std::optional<StartupItem>> AppState::runToggle(QPointer<AppState> s
     if (row == self->m_startupItems.end())
         co_return std::nullopt;
     StartupItem now = *row;
-    now.isEnabled = co_await QtConcurrent::run(
-        &self->m_environment.pools->userInitiated,
-        [platform = self->m_environment.platform, now] { return StartupScanService::toggleItem(*platform, now); });
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, now] {
+            return StartupScanService::toggleItem(*platform, now);
+        });
+    now.isEnabled = co_await work;
     if (!self)
         co_return now;
     QList<StartupItem> items = self->m_startupItems;
@@ -86,12 +89,13 @@ QCoro::Task<RemovalReport> AppState::runStartupRemoval(QPointer<AppState> self, 
         co_return report;
     if (std::ranges::find(self->m_startupItems, item.path, &StartupItem::path) == self->m_startupItems.cend())
         co_return report;
-    // The expected itself is no default-constructible future result in every library, its error is.
-    const std::error_code error = co_await QtConcurrent::run(
-        &self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, item] {
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, item] {
             const auto removed = StartupScanService::removeItem(*platform, item);
             return removed ? std::error_code() : removed.error();
         });
+    // The expected itself is no default-constructible future result in every library, its error is.
+    const std::error_code error = co_await work;
     if (!self)
         co_return report;
     if (error) {
