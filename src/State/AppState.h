@@ -46,7 +46,7 @@ struct AppEnvironment {
     FolderPanel *panel = nullptr;
     TaskPools *pools = nullptr;
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTimeUtc(); };
-    std::function<std::expected<QUrl, QString>()> appcastURL; // the service's own when absent
+    std::function<std::expected<QUrl, QString>()> appcastURL = {}; // the service's own when absent
     std::chrono::milliseconds toastTime{3'200};
     std::chrono::milliseconds statsInterval{2'000};
     std::chrono::milliseconds updateTimeout{8'000};

@@ -133,7 +133,7 @@ private:
         {
             if (const std::error_code refusal = m_can->answer(item))
                 return std::unexpected(refusal);
-            const FileURL target = m_can->m_folder.child(QByteArray::number(m_can->nextNumber()) + '-' + item.name());
+            FileURL target = m_can->m_folder.child(QByteArray::number(m_can->nextNumber()) + '-' + item.name());
             if (std::rename(item.path().constData(), target.path().constData()) != 0)
                 return std::unexpected(std::error_code(errno, std::generic_category()));
             return target;

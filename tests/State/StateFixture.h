@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QCoro/QCoroTask>
+#include <QSemaphore>
 #include <QTest>
 
 #include <memory>
@@ -67,6 +68,30 @@ public:
         return QCoro::waitFor(std::move(task));
     }
     static void wait(QCoro::Task<> task) { QCoro::waitFor(std::move(task)); }
+
+    /// While it lives no scan begins its work, however quick the machine or slow the test.
+    class Held
+    {
+    public:
+        explicit Held(StateFixture &fixture)
+            : m_pool(fixture.pools.userInitiated)
+            , m_threads(m_pool.maxThreadCount())
+        {
+            m_pool.setMaxThreadCount(1);
+            m_pool.start([this] { m_goOn.acquire(); });
+        }
+        ~Held()
+        {
+            m_goOn.release();
+            m_pool.setMaxThreadCount(m_threads);
+        }
+        Q_DISABLE_COPY_MOVE(Held)
+
+    private:
+        QThreadPool &m_pool;
+        int m_threads;
+        QSemaphore m_goOn;
+    };
 
     /// A file that an old-downloads scan finds.
     FileURL oldDownload(const QByteArray &name, qsizetype size) const

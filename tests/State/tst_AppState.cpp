@@ -103,9 +103,12 @@ void tst_AppState::rescansOnceWhenAskedTwice()
     AppState &state = f.make();
     QSignalSpy scanning(&state, &AppState::scanningChanged);
     QSignalSpy junk(&state, &AppState::junkLoadingChanged);
-    state.rescanAll();
-    state.rescanAll();
-    QVERIFY(state.scanning());
+    {
+        const StateFixture::Held held(f);
+        state.rescanAll();
+        state.rescanAll();
+        QVERIFY(state.scanning());
+    }
     QTRY_VERIFY(!state.scanning());
     QCOMPARE(scanning.count(), 2);
     QCOMPARE(junk.count(), 2);
@@ -263,12 +266,15 @@ void tst_AppState::stopsScansAtOnce()
     f.oldDownload("old.zip", 10);
     AppState &state = f.make();
     QSignalSpy lists(&state, &AppState::junkCategoriesChanged);
-    state.rescanAll();
-    state.scanJunk();
-    QVERIFY(state.junkLoading() && state.scanning());
-    state.stopScans();
-    QVERIFY(!state.junkLoading() && !state.scanning() && !state.appsLoading());
-    QCOMPARE(state.scanDetail(), QString());
+    {
+        const StateFixture::Held held(f);
+        state.rescanAll();
+        state.scanJunk();
+        QVERIFY(state.junkLoading() && state.scanning());
+        state.stopScans();
+        QVERIFY(!state.junkLoading() && !state.scanning() && !state.appsLoading());
+        QCOMPARE(state.scanDetail(), QString());
+    }
     f.settle();
     QCOMPARE(lists.count(), 0);
     QVERIFY2(!state.toast(), "a stopped scan says nothing");
@@ -282,22 +288,27 @@ void tst_AppState::runsTheSecondScanOfAKindAfterTheFirst()
     StateFixture f;
     AppState &state = f.make();
     QSignalSpy flag(&state, &AppState::largeFilesLoadingChanged);
+    std::optional<StateFixture::Held> held(std::in_place, f);
     QCoro::Task<> first = state.scanLargeFilesAsync();
     QCoro::Task<> second = state.scanLargeFilesAsync();
+    QVERIFY(state.largeFilesLoading());
+    held.reset();
     QCoro::waitFor(first);
-    QVERIFY2(state.largeFilesLoading(), "the flag stays set until the last of them ends");
     QCoro::waitFor(second);
     QVERIFY(!state.largeFilesLoading());
-    QCOMPARE(flag.count(), 2);
+    QVERIFY2(flag.count() == 2, "the flag stays set until the last of them ends");
 }
 
 void tst_AppState::endsQuietlyWhenDestroyedDuringAScan()
 {
     StateFixture f;
     AppState &state = f.make();
-    state.startInitialScan();
-    state.scanLargeFiles(std::nullopt, 1);
-    f.state.reset();
+    {
+        const StateFixture::Held held(f);
+        state.startInitialScan();
+        state.scanLargeFiles(std::nullopt, 1);
+        f.state.reset();
+    }
     f.settle();
     QVERIFY(!f.state);
 }
