@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using JsonFields::Json;
@@ -58,7 +59,7 @@ std::optional<FileURL> ActivityStore::fileURL(const Places &places)
     if (!folder)
         return std::nullopt;
     // Where it cannot be made, the write fails later, and the history lives on in memory.
-    (void)OwnFiles::makeFolder(*folder);
+    std::ignore = OwnFiles::makeFolder(*folder);
     return folder->child("activity.json");
 }
 
@@ -86,7 +87,7 @@ void ActivityStore::save(const Places &places, const QList<ActivityRecord> &reco
     // Whatever it is, somebody may want it back: where it cannot be put aside, it stays.
     if (!isMissing && !isUnderstood && !OwnFiles::keepAside(*file))
         return;
-    (void)OwnFiles::write(*file, encode(records.first(std::min(records.size(), kMaxRecords))));
+    std::ignore = OwnFiles::write(*file, encode(records.first(std::min(records.size(), kMaxRecords))));
 }
 
 QByteArray ActivityStore::encode(const QList<ActivityRecord> &records)

@@ -143,7 +143,7 @@ int compareDigits(QStringView a, QStringView b)
 std::expected<QUrl, QString> UpdateService::appcastURL()
 {
     const QString asked = qEnvironmentVariable("BRISKO_APPCAST_URL");
-    const QUrl address(asked.isEmpty() ? QStringLiteral(BRISKO_DEFAULT_APPCAST_URL) : asked, QUrl::StrictMode);
+    QUrl address(asked.isEmpty() ? QStringLiteral(BRISKO_DEFAULT_APPCAST_URL) : asked, QUrl::StrictMode);
     if (isAllowed(address))
         return address;
     return std::unexpected(u"BRISKO_APPCAST_URL: only an https address, or an http address of this machine itself "

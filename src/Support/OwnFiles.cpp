@@ -107,7 +107,7 @@ std::expected<void, std::error_code> OwnFiles::makeFolder(const FileURL &folder)
 std::expected<FileURL, std::error_code> OwnFiles::keepAside(const FileURL &file)
 {
     for (int number = 1;; ++number) {
-        const FileURL target = file.parent().child(file.name() + ".broken-" + QByteArray::number(number));
+        FileURL target = file.parent().child(file.name() + ".broken-" + QByteArray::number(number));
         // An empty file made exclusively holds the name, so that two of us never choose the same.
         const int claim = ::open(target.path().constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
         if (claim < 0 && errno == EEXIST)

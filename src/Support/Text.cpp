@@ -98,9 +98,7 @@ QString fill(QStringView format, Arguments arguments, const LanguageSnapshot &sn
         format = format.sliced(percent);
         const std::optional<Placeholder> placeholder = placeholderAt(format);
         const qsizetype length = placeholder ? placeholder->length : 1;
-        if (placeholder && placeholder->kind == Placeholder::Kind::percent) {
-            result += u'%';
-        } else if (placeholder) {
+        if (placeholder && placeholder->kind != Placeholder::Kind::percent) {
             const qsizetype position = placeholder->position ? *placeholder->position : next++;
             result += filling(*placeholder, position, arguments, snapshot).value_or(format.first(length).toString());
         } else {

@@ -146,7 +146,7 @@ Scaled scaled(qint64 count)
 
 QString written(const Scaled &scaled, const Digits &digits)
 {
-    const QString whole = digits.write(scaled.steps / scaled.stepsPerUnit);
+    QString whole = digits.write(scaled.steps / scaled.stepsPerUnit);
     qint64 fraction = scaled.steps % scaled.stepsPerUnit;
     if (fraction == 0)
         return whole;

@@ -29,6 +29,7 @@ TEST(LanguageSwitching, letsThreadsLookUpWhileTheMainThreadSwitches)
     std::atomic<int> wrong{0};
     std::atomic<int> germans{0};
     std::vector<std::thread> readers;
+    readers.reserve(4);
     for (int reader = 0; reader < 4; ++reader) {
         readers.emplace_back([&] {
             while (!done) {

@@ -125,7 +125,7 @@ TEST_F(UserDefaultsTest, keepsRandomTextsListsAndData)
     constexpr quint32 kSeed = 20'240'305;
     SCOPED_TRACE(testing::Message() << "seed " << kSeed);
     QRandomGenerator random(kSeed);
-    const QString alphabet = u"ab,;=\"'\\@%#[]() \n\r\t\0x019é日\U0001F600"_s;
+    const QString alphabet = u"ab,;=\"'\\@%#[]() \n\r\tx019é日\U0001F600"_s + QChar(0);
     const auto randomText = [&] {
         QString text;
         for (int length = random.bounded(8); length > 0; --length)

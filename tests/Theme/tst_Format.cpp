@@ -273,6 +273,7 @@ TEST_F(FormatTest, mayBeCalledOnManyThreadsWhileTheLanguageChanges)
     std::atomic<int> wrong{0};
     std::atomic<int> calls{0};
     std::vector<std::thread> threads;
+    threads.reserve(3);
     for (int thread = 0; thread < 3; ++thread) {
         threads.emplace_back([&] {
             while (!done) {
