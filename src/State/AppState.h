@@ -226,6 +226,8 @@ public:
     [[nodiscard]] AccessContext accessContext() const;
 
     // Updates.
+    /// Where the update feed is fetched from; an error says in one line why the address asked for cannot be used.
+    [[nodiscard]] std::expected<QUrl, QString> appcastURL() const;
     QCoro::Task<UpdateOutcome> checkForUpdates(bool silent);
     void skipUpdate();
     void downloadUpdate();

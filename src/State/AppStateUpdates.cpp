@@ -8,6 +8,11 @@
 
 using namespace Qt::StringLiterals;
 
+std::expected<QUrl, QString> AppState::appcastURL() const
+{
+    return m_environment.appcastURL ? m_environment.appcastURL() : UpdateService::appcastURL();
+}
+
 QCoro::Task<UpdateOutcome> AppState::checkForUpdates(bool silent)
 {
     return runUpdateCheck(this, silent);
@@ -23,8 +28,7 @@ QCoro::Task<UpdateOutcome> AppState::runUpdateCheck(QPointer<AppState> self, boo
             self->publish(self->m_isCheckingForUpdates, false, &AppState::isCheckingForUpdatesChanged);
     });
 
-    const auto address =
-        self->m_environment.appcastURL ? self->m_environment.appcastURL() : UpdateService::appcastURL();
+    const std::expected<QUrl, QString> address = self->appcastURL();
     std::expected<UpdateInfo, UpdateService::Failure> feed = std::unexpected(UpdateService::Failure::badAddress);
     if (address)
         feed = co_await UpdateService::fetchAppcast(*address, self->m_environment.updateTimeout);
