@@ -24,9 +24,10 @@ int main(int count, char **values)
     qint64 groupBytes = 0;
     for (const DuplicateGroup &group : groups)
         groupBytes += group.files.first().size;
-    std::printf(R"({"groups":%lld,"groupBytes":%lld,"candidates":%lld,"opens":%lld,"bytesRead":%lld,"bytesHashed":%lld})"
-                "\n",
-                static_cast<long long>(groups.size()), groupBytes, counters.candidates, counters.opens,
-                counters.bytesRead, counters.bytesHashed);
+    std::printf(
+        R"({"groups":%lld,"groupBytes":%lld,"candidates":%lld,"opens":%lld,"bytesRead":%lld,"bytesHashed":%lld})"
+        "\n",
+        static_cast<long long>(groups.size()), groupBytes, counters.candidates, counters.opens, counters.bytesRead,
+        counters.bytesHashed);
     return 0;
 }
