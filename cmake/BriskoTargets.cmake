@@ -4,6 +4,8 @@
 add_library(BriskoOptions INTERFACE)
 target_compile_options(BriskoOptions INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -fno-omit-frame-pointer)
+# GCC 12 suspects the insides of std::variant and std::optional once it inlines them, which only a release does.
+target_compile_options(BriskoOptions INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 target_compile_definitions(BriskoOptions INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
