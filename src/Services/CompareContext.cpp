@@ -27,7 +27,7 @@ Context::Context(const std::vector<Candidate> &candidates, const Limits &limits,
     , m_limits(limits)
     , m_settled(settled)
     , m_cancel(cancel)
-    , m_workers(makeWorkers(limits.workers))
+    , m_workers(QStringLiteral("com.brisko.dupecount"), limits.workers)
 {
     makeUnits();
 }
@@ -197,9 +197,8 @@ void Context::inParallel(int count, const std::function<void(int)> &work)
                 shared->allDone.notify_all();
         }
     };
-    constexpr int beforeOthers = 1;
-    for (int helper = std::min(m_workers->maxThreadCount(), count) - 1; helper > 0; --helper)
-        m_workers->start(takeTurns, beforeOthers);
+    for (int helper = std::min(m_limits.workers, count) - 1; helper > 0; --helper)
+        m_workers.addFirst(takeTurns);
     takeTurns();
     std::unique_lock lock(shared->mutex);
     shared->allDone.wait(lock, [&] { return shared->done == count; });
@@ -215,14 +214,6 @@ std::vector<EqualSet> Context::takeResults()
 Cost Context::cost() const
 {
     return {.opens = m_opens, .bytesRead = m_bytesRead, .bytesHashed = m_bytesHashed};
-}
-
-std::unique_ptr<QThreadPool> makeWorkers(int workers)
-{
-    auto pool = std::make_unique<QThreadPool>();
-    pool->setObjectName(QStringLiteral("com.brisko.dupecount"));
-    pool->setMaxThreadCount(workers);
-    return pool;
 }
 
 } // namespace DuplicateCompare

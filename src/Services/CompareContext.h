@@ -6,8 +6,7 @@
 #include "Services/Budget.h"
 #include "Services/DuplicateCompare.h"
 #include "Services/Sha256.h"
-
-#include <QThreadPool>
+#include "Services/WorkQueue.h"
 
 #include <atomic>
 #include <memory>
@@ -79,10 +78,10 @@ public:
     [[nodiscard]] std::optional<QByteArray> digestOf(const OpenFile &file);
 
     /// Runs `work` on a worker.
-    void start(std::function<void()> work) { m_workers->start(std::move(work)); }
+    void start(WorkQueue::Work work) { m_workers.add(std::move(work)); }
     /// Runs work(0) to work(count - 1) on this and on idle workers; returns when all are done.
     void inParallel(int count, const std::function<void(int)> &work);
-    void waitForWorkers() { m_workers->waitForDone(); }
+    void waitForWorkers() { m_workers.waitUntilIdle(); }
     [[nodiscard]] std::vector<EqualSet> takeResults();
     [[nodiscard]] Cost cost() const;
 
@@ -105,15 +104,12 @@ private:
     std::vector<quint32> m_order; // the candidates' positions, largest files first, names of one file together
     std::vector<Unit> m_units;    // largest first, then in the order of the candidates
     const Sha256 m_sha;
-    std::unique_ptr<QThreadPool> m_workers;
     std::mutex m_mutex;
     std::vector<EqualSet> m_results; // guarded by m_mutex
     std::atomic<qint64> m_opens = 0;
     std::atomic<qint64> m_bytesRead = 0;
     std::atomic<qint64> m_bytesHashed = 0;
+    WorkQueue m_workers; // last: its threads use the rest
 };
-
-/// The queue that whole files are compared and hashed on.
-[[nodiscard]] std::unique_ptr<QThreadPool> makeWorkers(int workers);
 
 } // namespace DuplicateCompare

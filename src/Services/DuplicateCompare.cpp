@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <mutex>
+#include <system_error>
+#include <thread>
 
 namespace DuplicateCompare {
 
@@ -182,27 +185,68 @@ private:
     bool m_isWaiting = false;
 };
 
-/// Reads all batches. What lies in memory keeps the processors busy enough with as many readers; more of them come
-/// only once the disk has to be waited for.
-void readAll(Context &context, const std::vector<Batch> &batches, const Limits &limits)
+/// Reads all batches, on this thread and others. What lies in memory keeps the processors busy enough with as many
+/// readers as there are workers; more of them come only once the disk has to be waited for.
+class ReadingStage
 {
-    std::atomic<size_t> next = 0;
-    std::atomic<int> started = std::min(limits.workers, limits.readers);
-    QThreadPool pool;
-    pool.setMaxThreadCount(limits.readers);
-    std::function<void()> read;
-    read = [&] {
-        Reader reader(context);
-        for (size_t at = next++; at < batches.size() && !context.isCancelled(); at = next++) {
-            reader.take(batches[at]);
-            if (reader.hadToWait() && started < limits.readers && started++ < limits.readers)
-                pool.start(read);
+public:
+    ReadingStage(Context &context, const std::vector<Batch> &batches)
+        : m_context(context)
+        , m_batches(batches)
+        , m_most(std::min(batches.size(), static_cast<size_t>(context.limits().readers)))
+    {
+    }
+
+    void run()
+    {
+        while (m_started < std::min(m_most, static_cast<size_t>(m_context.limits().workers)))
+            startAnother();
+        read();
+        // Only a running reader starts another, which then stands behind it in the list.
+        for (size_t at = 0;; ++at) {
+            std::thread thread;
+            {
+                const std::lock_guard lock(m_mutex);
+                if (at == m_threads.size())
+                    return;
+                thread = std::move(m_threads[at]);
+            }
+            thread.join();
         }
-    };
-    for (int count = started; count > 0; --count)
-        pool.start(read);
-    pool.waitForDone();
-}
+    }
+
+private:
+    void read()
+    {
+        Reader reader(m_context);
+        for (size_t at = m_next++; at < m_batches.size() && !m_context.isCancelled(); at = m_next++) {
+            reader.take(m_batches[at]);
+            if (reader.hadToWait() && m_started < m_most)
+                startAnother();
+        }
+    }
+
+    void startAnother()
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_started >= m_most)
+            return;
+        try {
+            m_threads.emplace_back([this] { read(); });
+            ++m_started;
+        } catch (const std::system_error &) {
+            m_started = m_most; // the system has no more threads for us: those there are read it all
+        }
+    }
+
+    Context &m_context;
+    const std::vector<Batch> &m_batches;
+    const size_t m_most;
+    std::atomic<size_t> m_next = 0;
+    std::atomic<size_t> m_started = 1; // readers, this thread included; changed under the lock
+    std::mutex m_mutex;
+    std::vector<std::thread> m_threads; // guarded by m_mutex
+};
 
 } // namespace
 
@@ -225,7 +269,7 @@ std::vector<EqualSet> equalSets(const std::vector<Candidate> &candidates, const 
 {
     Context context(candidates, limits, settled, cancel);
     const std::vector<Batch> batches = makeBatches(context);
-    readAll(context, batches, limits);
+    ReadingStage(context, batches).run();
     context.waitForWorkers();
     if (cost)
         *cost = context.cost();

@@ -3,7 +3,6 @@
 
 #include "Services/CompareContext.h"
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -22,7 +21,7 @@ struct Beginning {
     size_t hash = 0;             // of those bytes
 };
 
-using Work = std::function<void()>;
+using Work = WorkQueue::Work;
 
 /// Sorts the files of one size that are read as a whole: each is compared with those of its hash at once. The slices
 /// of one size may be added by several readers at a time.

@@ -133,15 +133,6 @@ TEST(DuplicateCompareLimits, WorkersAreTwoToSixWhateverTheMachine)
     EXPECT_LE(limitsFor(128, 10).readers, 6);
 }
 
-TEST(DuplicateCompareLimits, TheQueueIsNamed)
-{
-    for (int workers = 2; workers <= 6; ++workers) {
-        const auto pool = makeWorkers(workers);
-        EXPECT_EQ(pool->objectName(), u"com.brisko.dupecount");
-        EXPECT_EQ(pool->maxThreadCount(), workers);
-    }
-}
-
 TEST_F(DuplicateCompareTest, NothingComesOfNothing)
 {
     const Outcome outcome = compare({});
