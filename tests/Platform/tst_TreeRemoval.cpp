@@ -77,7 +77,7 @@ void makeChain(const FileURL &top, int depth)
 TEST(TreeRemoval, goesDeeperThanAnyPathWithFewDescriptors)
 {
     ScratchTree tree;
-    makeChain(tree.folder("deep"), 5000);
+    makeChain(tree.folder("deep"), 1500);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
     rlimit few = before;
@@ -103,7 +103,7 @@ TEST(TreeRemoval, removesWideAndBranchingTrees)
             folders.append(name);
         random() % 3 == 0 ? tree.folder(name) : tree.file(folders.contains(name) ? name + "/f" : name);
     }
-    for (int i = 0; i < 3000; ++i)
+    for (int i = 0; i < 1000; ++i)
         tree.file("top/wide/" + QByteArray::number(i), {});
     EXPECT_FALSE(removed(tree.at("top")));
     EXPECT_FALSE(ScratchTree::exists(tree.at("top")));
@@ -122,7 +122,7 @@ TEST(TreeRemoval, stopsBetweenTwoEntries)
 TEST(TreeRemoval, stopsInTheMiddleOfATree)
 {
     ScratchTree tree;
-    for (int i = 0; i < 20000; ++i)
+    for (int i = 0; i < 6000; ++i)
         tree.file("top/" + QByteArray::number(i), {});
     const CancelToken cancel;
     std::error_code failure;
@@ -130,13 +130,13 @@ TEST(TreeRemoval, stopsInTheMiddleOfATree)
     const auto left = [&] {
         return FileSystem::list(tree.at("top"), FileSystem::Hidden::include, FileSystem::Want::kinds)->size();
     };
-    while (ScratchTree::exists(tree.at("top")) && left() == 20000)
+    while (ScratchTree::exists(tree.at("top")) && left() == 6000)
         std::this_thread::yield();
     cancel.cancel();
     worker.join();
     EXPECT_EQ(failure, std::errc::operation_canceled);
     EXPECT_GT(left(), 0);
-    EXPECT_LT(left(), 20000);
+    EXPECT_LT(left(), 6000);
 }
 
 TEST(TreeRemoval, forcesNothingThatPermissionsForbid)
@@ -175,7 +175,7 @@ TEST(TreeRemoval, isNotLedOutByAFolderThatTurnsIntoALink)
     for (int i = 0; i < 50; ++i)
         tree.file("precious/" + QByteArray::number(i));
     tree.link("decoy", tree.at("precious").path());
-    for (int round = 0; round < 20; ++round) {
+    for (int round = 0; round < 8; ++round) {
         for (int i = 0; i < 40; ++i)
             tree.file("top/" + QByteArray::number(i) + "/inner/file");
         std::atomic<bool> done = false;

@@ -101,6 +101,22 @@ TEST_F(RemovalMounts, copiesFromMemoryIntoTheHomeTrash)
     EXPECT_TRUE(FileSystem::list(top, FileSystem::Hidden::include, FileSystem::Want::kinds)->isEmpty());
 }
 
+TEST_F(RemovalMounts, leavesFilesOfOthersInStickyFoldersOfMemory)
+{
+    OrdinaryUser::own(m_tree.root());
+    OrdinaryUser::own(m_home);
+    const FileURL top = mount("tmpfs", "memory", "size=1m,mode=1777");
+    const FileURL file = m_tree.file("memory/file", "bytes");
+    const OrdinaryUser user;
+    const LinuxTrashCan can({.homeTrash = m_trash, .user = ::geteuid(), .mounts = &MountPoints::all});
+    const auto moved = can.begin()->moveToTrash(file);
+    ASSERT_FALSE(moved.has_value());
+    EXPECT_EQ(moved.error(), std::errc::operation_not_permitted);
+    EXPECT_EQ(ScratchTree::content(file), "bytes");
+    EXPECT_FALSE(ScratchTree::exists(m_trash.appending("files/file")));
+    EXPECT_TRUE(ScratchTree::exists(top));
+}
+
 TEST_F(RemovalMounts, usesTheFolderOfASecondMountOfTheSameDisk)
 {
     m_tree.folder("data/part");
