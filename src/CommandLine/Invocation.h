@@ -47,9 +47,9 @@ struct Invocation {
     bool all = false;
     bool keepFirst = false;
     qint64 minSize = kDefaultMinSize; // bytes
-    QList<QByteArray> folders;                              // in place of the saved list, when there are any
-    QList<QByteArray> categories;                           // as named, each one known
-    QList<QByteArray> operands;                             // files, applications or a folder
+    QList<QByteArray> folders;        // in place of the saved list, when there are any
+    QList<QByteArray> categories;     // as named, each one known
+    QList<QByteArray> operands;       // files, applications or a folder
     friend bool operator==(const Invocation &, const Invocation &) = default;
 };
 

@@ -15,7 +15,7 @@ enum class Place {
     caches,
     logs,
     temporary,
-    trash,        // the folders whose entries are trashed items
+    trash, // the folders whose entries are trashed items
     crashReports,
     browserCaches,
     chatCaches,

@@ -20,7 +20,7 @@ public:
     /// Removes one item for good, a folder with all its content, never through a link. An item of a Trash takes its
     /// record along. Stops between two entries, with `operation_canceled`, once `cancel` is cancelled.
     [[nodiscard]] virtual std::expected<void, std::error_code> removeForGood(const FileURL &item,
-                                                                              const CancelToken &cancel) = 0;
+                                                                             const CancelToken &cancel) = 0;
 };
 
 /// The desktop's Trash. Any thread.

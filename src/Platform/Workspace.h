@@ -20,8 +20,8 @@ class Workspace
 {
 public:
     virtual ~Workspace() = default;
-    /// Hands an address to the desktop: `https:` and `mailto:` only, and the fixed address of the settings pane. Answers
-    /// whether it was handed over. Main thread.
+    /// Hands an address to the desktop: `https:` and `mailto:` only, and the fixed address of the settings pane.
+    /// Answers whether it was handed over. Main thread.
     virtual bool open(const QUrl &address) const = 0;
     /// The name under which the file manager shows a bundle. Any thread.
     [[nodiscard]] virtual QString displayName(const FileURL &bundle) const = 0;

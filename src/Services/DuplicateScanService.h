@@ -16,23 +16,23 @@
 /// Finds files of identical content under chosen folders. Only reads, but for its own log.
 namespace DuplicateScanService {
 
-inline constexpr qint64 kMinSize = 4'096;    // bytes; smaller files are never duplicates
-inline constexpr qint64 kChunk = 1'048'576;  // bytes hashed at a time
-inline constexpr int kDeepestFolder = 23;    // levels below a chosen folder
+inline constexpr qint64 kMinSize = 4'096;   // bytes; smaller files are never duplicates
+inline constexpr qint64 kChunk = 1'048'576; // bytes hashed at a time
+inline constexpr int kDeepestFolder = 23;   // levels below a chosen folder
 inline constexpr int kMinWorkers = 2;
 inline constexpr int kMaxWorkers = 6;
 
 /// What a scan cost, for benchmarks and tests.
 struct Counters {
-    qint64 candidates = 0;  // files in sizes that more than one file has
-    qint64 opens = 0;       // times a candidate was opened
+    qint64 candidates = 0; // files in sizes that more than one file has
+    qint64 opens = 0;      // times a candidate was opened
     qint64 bytesRead = 0;
     qint64 bytesHashed = 0; // given to SHA-256
 };
 
 struct Options {
     QList<FileURL> folders;
-    FileURL logFolder;           // where the scan log goes
+    FileURL logFolder;            // where the scan log goes
     Counters *counters = nullptr; // filled when given
 };
 

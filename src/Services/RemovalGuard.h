@@ -41,7 +41,7 @@ private:
 
     bool m_hasHome = false;
     QSet<MountPoints::Identity> m_guarded;
-    QSet<FileURL> m_holders; // what is guarded because of what it holds
+    QSet<FileURL> m_holders;            // what is guarded because of what it holds
     QSet<MountPoints::Identity> m_ours; // folders in which everything belongs to the program
     QList<QByteArray> m_mounts;         // sorted
     QHash<FileURL, Folder> m_folders;

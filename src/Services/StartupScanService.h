@@ -21,8 +21,7 @@ using ::StartupType;
 inline constexpr int kSystemLevelCode = 1;
 
 /// The items of one folder, in listing order; empty when it cannot be listed. Any thread.
-[[nodiscard]] QList<StartupItem> scanPlistDirectory(const Platform &platform, const FileURL &folder,
-                                                    StartupType type);
+[[nodiscard]] QList<StartupItem> scanPlistDirectory(const Platform &platform, const FileURL &folder, StartupType type);
 /// All items, sorted by file name in plain string order. Any thread.
 [[nodiscard]] QList<StartupItem> scanSync(const Platform &platform);
 /// Switches a user-level item and answers whether it is enabled now; a system-level or unreadable one stays as it is.
