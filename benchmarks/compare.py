@@ -58,21 +58,22 @@ class Scratch:
         if not self.keep:
             shutil.rmtree(self.path)
 
-    def home(self):
-        """A fresh home, as the environment of a run."""
-        home = self.folder("home")
-        shutil.rmtree(home, ignore_errors=True)
+    def home(self, contender):
+        """The home of one contender, as the environment of a run. Each keeps its own, as people do: what a first start
+        writes down belongs to the round that warms up. Its Trash is empty every time."""
+        home = self.folder("home of " + contender)
         places = {"HOME": home, "XDG_DATA_HOME": f"{home}/.local/share", "XDG_CONFIG_HOME": f"{home}/.config",
                   "XDG_CACHE_HOME": f"{home}/.cache", "XDG_STATE_HOME": f"{home}/.local/state",
                   "XDG_RUNTIME_DIR": f"{home}/.run", "TMPDIR": f"{home}/.tmp"}
         for place in places.values():
-            os.makedirs(place, mode=0o700)
+            os.makedirs(place, mode=0o700, exist_ok=True)
+        shutil.rmtree(os.path.join(places["XDG_DATA_HOME"], "Trash"), ignore_errors=True)
         return {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "TZ": "UTC", **places}
 
 
 class Runner:
-    def __init__(self, scratch, rounds):
-        self.scratch, self.rounds = scratch, rounds
+    def __init__(self, scratch, rounds, settles):
+        self.scratch, self.rounds, self.settles = scratch, rounds, settles
         self.output = scratch.folder("output")
 
     def launch(self, command):
@@ -89,13 +90,14 @@ class Runner:
 
     def once(self, work, contender, tree, cold):
         """One run; answers its figures and what was found."""
-        self.environment = self.scratch.home()
+        self.environment = self.scratch.home(contender.name)
         if work.consumes:
             copy = self.scratch.folder("copy")
             shutil.rmtree(copy, ignore_errors=True)
             subprocess.run(["cp", "-a", tree, copy], check=True)
             tree = copy
-        os.sync()  # what was written before is not paid for in the run
+        if self.settles:
+            os.sync()  # what was written before is not paid for in the run
         if cold:
             with open(DROP_CACHES, "w", encoding="ascii") as file:
                 file.write("3")
@@ -205,7 +207,7 @@ def files_in_shared_sizes(tree):
 
 def counters(work, tree, runner, table, helpers):
     """Bytes given to SHA-256 as the engine counts them, and opens of candidates as the kernel sees them."""
-    runner.environment = runner.scratch.home()
+    runner.environment = runner.scratch.home(work.contenders[0].name)
     figures, output = runner.launch([os.path.join(helpers, "bench_duplicates"), tree])
     if figures["status"] != 0:
         raise Trouble(f"bench_duplicates ended with {figures['status']}: {runner.errors()}")
@@ -227,7 +229,6 @@ def counters(work, tree, runner, table, helpers):
 def traced_opens(tree, runner, candidates, command):
     """How often the kernel opened a file of the candidates' names, which are unique in these trees."""
     trace = runner.scratch.folder("trace")
-    runner.environment = runner.scratch.home()
     figures, _ = runner.launch(["strace", "-f", "-qq", "--trace=open,openat,openat2", "-s", "4096", "-o", trace,
                                 *command])
     if figures["status"] != 0:
@@ -284,7 +285,7 @@ def parse_arguments():
 
 def measure(arguments, chosen, scratch):
     scale = trees.QUICK if arguments.quick else trees.FULL
-    runner = Runner(scratch, arguments.rounds)
+    runner = Runner(scratch, arguments.rounds, settles=not arguments.quick)
     cold = not arguments.warm_only and can_drop_caches()
     if not cold:
         say("The page cache is left alone: no cold runs.")

@@ -2,6 +2,7 @@
 #include "Support/Tasks.h"
 
 #include <algorithm>
+#include <utility>
 
 TaskPools::TaskPools()
 {
@@ -16,7 +17,7 @@ TaskPools::TaskPools()
 void TasksDetail::dieOfException(std::exception_ptr exception)
 {
     try {
-        std::rethrow_exception(exception);
+        std::rethrow_exception(std::move(exception));
     } catch (const std::exception &error) {
         qFatal("A task ended with an exception: %s", error.what());
     } catch (...) {

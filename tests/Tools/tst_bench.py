@@ -83,7 +83,7 @@ class Bench(unittest.TestCase):
         with open(seen, encoding="utf-8") as lines:
             environment = dict(line.rstrip("\n").split("=", 1) for line in lines if "=" in line)
         for name in ("HOME", "TMPDIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"):
-            self.assertTrue(environment[name].startswith(os.path.realpath(self.root) + "/bench/home"), name)
+            self.assertTrue(environment[name].startswith(os.path.realpath(self.root) + "/bench/home of brisko"), name)
 
 
 if __name__ == "__main__":
