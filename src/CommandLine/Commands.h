@@ -14,7 +14,7 @@ namespace CommandLine {
 using SessionPointer = std::shared_ptr<Session>;
 
 /// Carries out the command that the session was made for, prints its answer and says how the program ends.
-[[nodiscard]] QCoro::Task<ExitStatus> carryOut(SessionPointer session);
+[[nodiscard]] QCoro::Task<ExitStatus> carryOut(const SessionPointer &session);
 
 namespace Commands {
 
@@ -26,8 +26,8 @@ namespace Commands {
 [[nodiscard]] std::optional<StartupItem> listedStartupItem(const Session &session);
 
 // Scans with the folders and the size of the command line.
-[[nodiscard]] QCoro::Task<> lookForLargeFiles(SessionPointer session);
-[[nodiscard]] QCoro::Task<> lookForDuplicates(SessionPointer session);
+[[nodiscard]] QCoro::Task<> lookForLargeFiles(const SessionPointer &session);
+[[nodiscard]] QCoro::Task<> lookForDuplicates(const SessionPointer &session);
 /// Waits until `holds`, which is asked again whenever the session has moved.
 [[nodiscard]] QCoro::Task<> until(SessionPointer session, std::function<bool()> holds);
 /// Waits for the details of every application too.

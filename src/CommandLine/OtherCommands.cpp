@@ -173,7 +173,7 @@ QCoro::Task<ExitStatus> Commands::editFolders(SessionPointer session)
     co_return trouble.value_or(ExitStatus::done);
 }
 
-QCoro::Task<ExitStatus> carryOut(SessionPointer session)
+QCoro::Task<ExitStatus> carryOut(const SessionPointer &session)
 {
     switch (session->invocation().command) {
     case Command::scanJunk:

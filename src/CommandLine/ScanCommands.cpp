@@ -110,7 +110,7 @@ QCoro::Task<ExitStatus> Commands::scanJunk(SessionPointer session)
     co_return finish(*session, junkOf(session->state()));
 }
 
-QCoro::Task<> Commands::lookForLargeFiles(SessionPointer session)
+QCoro::Task<> Commands::lookForLargeFiles(const SessionPointer &session)
 {
     return session->state().scanLargeFilesAsync(givenFolders(*session), session->invocation().minSize);
 }
@@ -121,7 +121,7 @@ QCoro::Task<ExitStatus> Commands::scanLargeFiles(SessionPointer session)
     co_return finish(*session, largeFilesOf(session->state()));
 }
 
-QCoro::Task<> Commands::lookForDuplicates(SessionPointer session)
+QCoro::Task<> Commands::lookForDuplicates(const SessionPointer &session)
 {
     const auto folders = givenFolders(*session);
     return folders ? session->state().scanDuplicates(*folders) : session->state().scanDuplicates();

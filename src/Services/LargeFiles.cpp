@@ -41,12 +41,12 @@ std::vector<Work> LargeFiles::add(std::span<Beginning> slice)
         }
         alike.isBusy = true;
         ++m_outstanding;
-        work.push_back([self = shared_from_this(), &alike] { self->compareArrivals(alike); });
+        work.emplace_back([self = shared_from_this(), &alike] { self->compareArrivals(alike); });
     }
     if (--m_slices == 0)
         dropIdle();
     if (--m_outstanding == 0)
-        work.push_back([self = shared_from_this()] { self->finish(); });
+        work.emplace_back([self = shared_from_this()] { self->finish(); });
     return work;
 }
 

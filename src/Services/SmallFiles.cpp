@@ -102,7 +102,7 @@ std::vector<Work> SmallFiles::finish()
         const size_t to = std::min(from + together, sets.size());
         std::vector<Copies> some(std::make_move_iterator(sets.begin() + static_cast<std::ptrdiff_t>(from)),
                                  std::make_move_iterator(sets.begin() + static_cast<std::ptrdiff_t>(to)));
-        work.push_back([self = shared_from_this(), some = std::move(some)] {
+        work.emplace_back([self = shared_from_this(), some = std::move(some)] {
             for (const Copies &copies : some)
                 self->hash(copies);
         });

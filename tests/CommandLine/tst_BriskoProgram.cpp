@@ -22,7 +22,7 @@ const Arguments kLarge{"remove", "large-files", "--folder", "files", "--min-size
 QList<QByteArray> urlsOf(const QJsonValue &list)
 {
     QList<QByteArray> urls;
-    for (const QJsonValue &item : list.toArray())
+    for (const auto item : list.toArray())
         urls.append(item[u"url"].toString().toLatin1());
     return urls;
 }

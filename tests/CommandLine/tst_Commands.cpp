@@ -38,7 +38,7 @@ struct Ended {
 QStringList pathsOf(const QJsonValue &list)
 {
     QStringList paths;
-    for (const QJsonValue &item : list.toArray())
+    for (const auto item : list.toArray())
         paths.append(item[u"path"].toString());
     return paths;
 }
@@ -578,7 +578,7 @@ void tst_Commands::uninstallReportsLeftoversFirst()
     QCOMPARE(removed.last(), bundle.text());
     QVERIFY(removed.contains(preferences.text()) && removed.contains(caches.text()));
     qint64 sum = 0;
-    for (const QJsonValue &item : ended.json()[u"removed"].toArray())
+    for (const auto item : ended.json()[u"removed"].toArray())
         sum += item[u"size"].toInteger();
     QCOMPARE(ended.json()[u"bytes"].toInteger(), sum);
     QCOMPARE(ended.json()[u"activity"][u"bytes"].toInteger(), sum);
@@ -669,7 +669,7 @@ void tst_Commands::foldersAreAddedAndRemoved()
         const auto folders = [&](const QList<QByteArray> &arguments) {
             const Ended ended = f.run(QList<QByteArray>{"folders", list} + arguments + QList<QByteArray>{"--json"});
             QList<QByteArray> paths;
-            for (const QJsonValue &folder : ended.json()[u"folders"].toArray())
+            for (const auto folder : ended.json()[u"folders"].toArray())
                 paths.append(FileURL::fromEncoded(folder[u"url"].toString().toLatin1()).value().path());
             return ended.status == ExitStatus::done ? paths : QList<QByteArray>{"failed"};
         };

@@ -14,13 +14,15 @@ namespace {
 
 class DuplicateMounts : public ::testing::Test
 {
+public:
+    ~DuplicateMounts() override { EXPECT_EQ(::umount2(m_second.path().constData(), MNT_DETACH), 0); }
+
 protected:
     static void SetUpTestSuite()
     {
         ASSERT_EQ(::unshare(CLONE_NEWNS), 0);
         ASSERT_EQ(::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
     }
-    ~DuplicateMounts() override { EXPECT_EQ(::umount2(m_second.path().constData(), MNT_DETACH), 0); }
 
     QList<QList<QByteArray>> scanWithSecondMount()
     {

@@ -19,6 +19,13 @@ namespace {
 
 class RemovalMounts : public testing::Test
 {
+public:
+    ~RemovalMounts() override
+    {
+        for (; !m_mounted.isEmpty(); m_mounted.removeLast())
+            EXPECT_EQ(::umount2(m_mounted.last().path().constData(), MNT_DETACH), 0);
+    }
+
 protected:
     RemovalMounts()
     {
@@ -28,11 +35,6 @@ protected:
         made->trashCan = std::make_unique<LinuxTrashCan>(
             TrashEnvironment{.homeTrash = m_trash, .user = ::geteuid(), .mounts = &MountPoints::all});
         m_platform = std::move(made);
-    }
-    ~RemovalMounts() override
-    {
-        for (; !m_mounted.isEmpty(); m_mounted.removeLast())
-            EXPECT_EQ(::umount2(m_mounted.last().path().constData(), MNT_DETACH), 0);
     }
 
     FileURL mount(const char *type, QByteArrayView relative, const char *options)

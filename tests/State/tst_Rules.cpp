@@ -18,7 +18,7 @@ FileURL url(const char *path)
     return FileURL::fromPath(path).value();
 }
 
-InstalledApp app(const char *path, std::optional<QDateTime> lastUsed, std::optional<qint64> size, qint64 related)
+InstalledApp app(const char *path, const std::optional<QDateTime> &lastUsed, std::optional<qint64> size, qint64 related)
 {
     InstalledApp made;
     made.url = url(path);
