@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "CommandLine/CommandTable.h"
 #include "CommandLine/Commands.h"
 #include "CommandLine/FakeTerminal.h"
 #include "CommandLine/Matching.h"
@@ -123,6 +124,7 @@ private Q_SLOTS:
     void anInterruptionDuringTheQuestionDeclines();
     void anInterruptionAfterTheAnswerRemovesNothing();
     void anInterruptedScanStillAnswersPrograms();
+    void everyCategoryOfTheScanCanBeNamed();
     void categoriesAreCleanedInTheirOwnOrder();
     void aCategoryEmptiedByAnEarlierOneIsReported();
     void aKnownCategoryWithoutFindings();
@@ -418,6 +420,26 @@ void tst_Commands::anInterruptedScanStillAnswersPrograms()
         QVERIFY2(ended.json().contains(key), ended.output.constData());
         QVERIFY(ScratchTree::exists(file));
     }
+}
+
+void tst_Commands::everyCategoryOfTheScanCanBeNamed()
+{
+    CommandFixture f;
+    f.oldDownload("old.txt", 1);
+    f.oldDownload("setup.dmg", 1);
+    const FileURL temporary = f.tree.file("home/tmp/old", "x");
+    ScratchTree::setModified(temporary, f.now.addDays(-10));
+    for (const char *name :
+         {"Library/Caches/c", "Library/Logs/l.log", ".Trash/t", "Library/Logs/DiagnosticReports/r.ips",
+          "Library/Caches/Firefox/p", "Library/Containers/com.tencent.qq/Data/Library/Caches/q"})
+        f.tree.file(QByteArray("home/") + name, "x");
+    QList<QByteArray> found;
+    for (const QJsonValue &category : f.run({"scan", "junk", "--json"}).json()[u"categories"].toArray())
+        found.append(category[u"name"].toString().toUtf8());
+    QList<QByteArray> known;
+    for (const QByteArrayView name : junkCategoryNames())
+        known.append(name.toByteArray());
+    QCOMPARE(found, known);
 }
 
 void tst_Commands::categoriesAreCleanedInTheirOwnOrder()
