@@ -59,11 +59,12 @@ class Lint(unittest.TestCase):
         with open(path, "w", encoding="utf-8") as file:
             file.write(text)
 
-    def answer(self, text):
+    def answer(self, text, *more):
         self.write(self.source, text)
-        command = {"directory": self.build, "file": self.source,
-                   "command": f"/usr/bin/c++ -I{self.root}/src -Wall -Wshadow -std=c++23 -c {self.source}"}
-        self.write(os.path.join(self.build, "compile_commands.json"), json.dumps([command]))
+        commands = [{"directory": self.build, "file": source,
+                     "command": f"/usr/bin/c++ -I{self.root}/src -Wall -Wshadow -std=c++23 -c {source}"}
+                    for source in (self.source, *more)]
+        self.write(os.path.join(self.build, "compile_commands.json"), json.dumps(commands))
         answer = subprocess.run([sys.executable, TOOL, "--root", self.root, "--build", self.build],
                                 capture_output=True, text=True, check=False)
         return answer.returncode, answer.stdout + answer.stderr
@@ -108,6 +109,25 @@ Task dangling(const std::string &text)
         lines = "".join(f"    total += {number};\n" for number in range(61))
         self.refuses(CLEAN + f"\nint total()\n{{\n    int total = 0;\n{lines}    return total;\n}}\n",
                      "readability-function-size")
+
+    def test_a_folder_may_have_rules_of_its_own(self):
+        lines = "".join(f"    total += {number};\n" for number in range(61))
+        self.write(os.path.join(self.root, "src", "Models", ".clang-tidy"),
+                   "InheritParentConfig: true\nChecks: -readability-function-size\n")
+        text = CLEAN + f"\nint total()\n{{\n    int total = 0;\n{lines}    return total;\n}}\n"
+        self.assertEqual(self.answer(text)[0], 0)
+
+    def test_sources_of_one_folder_are_looked_at_together_and_alone(self):
+        second = os.path.join(self.root, "src", "Models", "Second.cpp")
+        clash = ("\nnamespace {\nint helper()\n{\n    return 1;\n}\n} // namespace\n\n"
+                 "int use%s()\n{\n    return helper();\n}\n")
+        self.write(second, "// SPDX-License-Identifier: MIT\n" + clash % "Second")
+        self.assertEqual(self.answer(CLEAN + clash % "First", second)[0], 0)
+        self.write(second, "// SPDX-License-Identifier: MIT\nstruct Second {\n    Second(int value);\n};\n")
+        status, said = self.answer(CLEAN, second)
+        self.assertEqual(status, 1)
+        self.assertIn("Second.cpp:3", said)
+        self.assertNotIn("together.cpp", said)
 
     def test_refuses_careless_spacing(self):
         self.refuses(CLEAN + "\nint  spaced( );\n", "clang-format-violations")
