@@ -20,7 +20,8 @@ Context::Context(const std::vector<Candidate> &candidates, const Limits &limits,
                  const CancelToken &cancel)
     : descriptors(std::max(kSlice, limits.descriptors * 9 / 16))
     , kept(limits.descriptors * 3 / 16)
-    , contents(qint64{limits.readers} * 2 * kSlice * kPrefix) // twice what readers hold between them, so none waits forever
+    , contents(qint64{limits.readers} * 2 * kSlice *
+               kPrefix) // twice what readers hold between them, so none waits forever
     , stored(limits.memory)
     , seed(static_cast<size_t>(QRandomGenerator::system()->generate64()))
     , m_candidates(candidates)

@@ -434,7 +434,7 @@ void tst_Commands::everyCategoryOfTheScanCanBeNamed()
           "Library/Caches/Firefox/p", "Library/Containers/com.tencent.qq/Data/Library/Caches/q"})
         f.tree.file(QByteArray("home/") + name, "x");
     QList<QByteArray> found;
-    for (const QJsonValue &category : f.run({"scan", "junk", "--json"}).json()[u"categories"].toArray())
+    for (const auto category : f.run({"scan", "junk", "--json"}).json()[u"categories"].toArray())
         found.append(category[u"name"].toString().toUtf8());
     QList<QByteArray> known;
     for (const QByteArrayView name : junkCategoryNames())
