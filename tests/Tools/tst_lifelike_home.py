@@ -120,10 +120,10 @@ class LifelikeHome(unittest.TestCase):
         self.assertEqual({item["name"]: item["isEnabled"] for item in startup["items"] if item["isUserLevel"]},
                          {"broken.plist": True, "com.example.sync.plist": True,
                           "com.example.tunebox.helper.plist": True, "com.example.updater.plist": False})
+        films = [os.path.basename(file["path"]) for file in found["largeFiles"]["files"]]
+        self.assertEqual(films, ["Holiday.mkv", "Wedding.mp4", "database dump.sql", "Birthday.mov", "Just large.mov"])
+        # Elsewhere it may be a machine whose true account has applications, or none.
         if b"keeps its own home" not in answer.stderr:
-            films = [os.path.basename(file["path"]) for file in found["largeFiles"]["files"]]
-            self.assertEqual(films, ["Holiday.mkv", "Wedding.mp4", "database dump.sql", "Birthday.mov",
-                                     "Just large.mov"])
             apps = {app["name"]: app for app in found["apps"]["apps"] if self.folder in app["path"]}
             self.assertEqual(sorted(apps), ["Bare", "Forgotten Game", "Pixel Paint", "Tune Box"])
             self.assertTrue(apps["Tune Box"]["relatedFiles"])
