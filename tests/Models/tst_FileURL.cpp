@@ -39,7 +39,7 @@ TEST(FileURL, takesARelativePathFromItsBase)
 
 TEST(FileURL, keepsEveryByteThroughItsEncodedForm)
 {
-    std::mt19937 random(20260114); // NOLINT: the seed is fixed so that a failure can be repeated
+    std::mt19937 random(20260114); // NOLINT: a fixed start, so that a failure can be repeated
     std::uniform_int_distribution<int> byte(1, 255);
     std::uniform_int_distribution<int> length(1, 255);
     for (int round = 0; round < 500; ++round) {
