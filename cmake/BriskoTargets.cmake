@@ -21,3 +21,26 @@ function(brisko_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC BriskoOptions ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
 endfunction()
+
+# brisko_qml_module(NAME URI ... SOURCES ... LINKS ...): C++ types for QML, under our own warnings.
+# brisko_qml_files(NAME URI ... FILES ... LINKS ...): QML files; what is generated from them has warnings of its own, so
+# it is built without ours. Whoever shows them links NAMEplugin too and imports it: see App/QmlModules.h.
+function(brisko_qml_module name)
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    string(REPLACE "." "/" folder ${ARG_URI})
+    qt_add_library(${name} STATIC)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    qt_add_qml_module(${name} URI ${ARG_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
+        OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${folder} SOURCES ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC BriskoOptions ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
+    # The generated registration includes its headers by their bare names.
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+endfunction()
+function(brisko_qml_files name)
+    cmake_parse_arguments(ARG "" "URI" "FILES;LINKS" ${ARGN})
+    string(REPLACE "." "/" folder ${ARG_URI})
+    qt_add_library(${name} STATIC)
+    qt_add_qml_module(${name} URI ${ARG_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
+        OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${folder} QML_FILES ${ARG_FILES})
+    target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_LINKS})
+endfunction()

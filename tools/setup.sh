@@ -83,6 +83,17 @@ install_packages() {
     quietly "${install[@]}" || exit 1
 }
 
+# Fetches the symbol font at its pinned version; npm compares it with the digest in the lock file. A copy of one's own
+# is named with cmake's -DBRISKO_SYMBOL_FONT= instead.
+ensure_symbols() {
+    local font=symbols/node_modules/framework7-icons/fonts/Framework7Icons-Regular.ttf
+    [[ ! -e $font || symbols/package-lock.json -nt $font ]] || return 0
+    command -v npm >/dev/null || ensure_packages symbols
+    say "Fetching the symbol font…"
+    quietly npm ci --prefix symbols --ignore-scripts --no-audit --no-fund || exit 1
+    touch -- "$font"
+}
+
 # build PRESET [TARGET...]: configures when needed, then builds, one build of a checkout at a time.
 build() {
     local preset=$1
@@ -90,6 +101,7 @@ build() {
     local folder=build/$preset
     local -a targets=()
     (($# == 0)) || targets=(--target "$@")
+    ensure_symbols
     mkdir -p "$folder"
     exec {lock}>"$folder/.lock"
     if ! flock -n "$lock"; then

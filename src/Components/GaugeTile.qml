@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQuick
+import Brisko.Theme
+
+// A ring gauge with its value inside, and its title and detail below.
+GlassCard {
+    id: root
+
+    required property string title
+    required property string value
+    property string detail: ""
+    property bool hasProgress: true
+    property real progress: 0
+    property color firstColor: Theme.blue
+    property color lastColor: Theme.violet
+    property bool scanning: false
+
+    // Without a figure to show, an arc that turns says that one is being looked for.
+    readonly property bool spinning: scanning && !hasProgress
+    property real animated: 0
+
+    implicitHeight: column.implicitHeight + 2 * padding
+    padding: 20
+    Accessible.role: Accessible.StaticText
+    Accessible.name: title
+    Accessible.description: detail === "" ? value : value + ", " + detail
+
+    Behavior on animated {
+        NumberAnimation { duration: Theme.ring; easing.type: Easing.OutQuad }
+    }
+    onProgressChanged: animated = progress
+    Component.onCompleted: animated = progress
+
+    Column {
+        id: column
+        anchors { left: parent.left; right: parent.right }
+        spacing: Theme.textGap
+
+        RingGauge {
+            id: ring
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 106
+            height: 106
+            trackColor: Theme.border
+            firstColor: root.firstColor
+            lastColor: root.lastColor
+            value: root.spinning ? 0.22 : root.animated
+
+            Timer {
+                interval: 70
+                repeat: true
+                running: root.spinning && root.visible
+                onTriggered: ring.start = (ring.start + 0.05) % 1
+                onRunningChanged: if (!running) ring.start = 0
+            }
+            FittedText {
+                anchors.centerIn: parent
+                width: 76
+                text: root.value
+            }
+        }
+        Item { width: 1; height: 8 }
+        PlainLabel {
+            width: parent.width
+            text: root.title
+            font: Typo.headline
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        PlainLabel {
+            width: parent.width
+            // Two lines are kept free, so that no card jumps when its detail grows.
+            height: 30
+            text: root.detail
+            font: Typo.small
+            color: Theme.textSecondary
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignTop
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+}

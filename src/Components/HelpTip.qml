@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Brisko.Theme
+
+// A tip over its parent, also where that is disabled: the handler is this item's own.
+Item {
+    id: root
+
+    property string text: ""
+
+    anchors.fill: parent
+
+    HoverHandler { id: hover }
+    T.ToolTip {
+        id: tip
+        visible: hover.hovered && root.text !== ""
+        text: root.text
+        delay: Theme.reducedMotion ? 0 : 700
+        y: root.height + 6
+        margins: 8
+        padding: 8
+        implicitWidth: Math.min(label.implicitWidth, 420) + 2 * padding
+        implicitHeight: label.implicitHeight + 2 * padding
+        closePolicy: T.Popup.NoAutoClose
+        contentItem: PlainLabel {
+            id: label
+            text: tip.text
+            font: Typo.small
+            wrapMode: Text.WrapAnywhere
+        }
+        background: Rectangle {
+            radius: 8
+            color: Theme.surfaceAlt
+            border.width: 1
+            border.color: Theme.border
+        }
+    }
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "Theme/Theme.h"
+
+Theme::Theme(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void Theme::setDark(bool dark)
+{
+    if (m_dark == dark)
+        return;
+    m_dark = dark;
+    Q_EMIT darkChanged();
+}
+
+void Theme::setReducedMotion(bool reduced)
+{
+    if (m_reducedMotion == reduced)
+        return;
+    m_reducedMotion = reduced;
+    Q_EMIT reducedMotionChanged();
+}
+
+void Theme::setGlassDensity(double density)
+{
+    if (m_glassDensity == density)
+        return;
+    m_glassDensity = density;
+    Q_EMIT glassDensityChanged();
+}
+
+QColor Theme::fromHex(quint32 rgb)
+{
+    return QColor::fromRgb((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);
+}
+
+QColor Theme::at(const QColor &colour, double opacity)
+{
+    QColor faded = colour;
+    faded.setAlphaF(static_cast<float>(opacity));
+    return faded;
+}
+
+QColor Theme::dynamic(quint32 light, double lightAlpha, quint32 dark, double darkAlpha) const
+{
+    return m_dark ? at(fromHex(dark), darkAlpha) : at(fromHex(light), lightAlpha);
+}

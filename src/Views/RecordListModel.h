@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractListModel>
+#include <QHash>
+#include <QList>
+
+#include <algorithm>
+#include <type_traits>
+#include <utility>
+
+/// A list of records as a model, whose rows keep their identity: new records are compared with the old ones by
+/// `keyOf(record)`, and only what differs is inserted, removed or changed, so that scroll position, hover and expansion
+/// survive. Keys are unique. Main thread.
+template <typename Record, auto keyOf>
+class RecordListModel : public QAbstractListModel
+{
+public:
+    using Key = std::remove_cvref_t<decltype(keyOf(std::declval<const Record &>()))>;
+
+    using QAbstractListModel::QAbstractListModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_records.size());
+    }
+    [[nodiscard]] const QList<Record> &records() const { return m_records; }
+    /// The row of a key; absent: -1.
+    [[nodiscard]] int rowOf(const Key &key) const { return m_rows.value(key, -1); }
+
+    void setRecords(QList<Record> records)
+    {
+        const QHash<Key, int> rows = rowsOf(records);
+        if (!sharesAKey(rows)) {
+            if (m_records.isEmpty() && records.isEmpty())
+                return;
+            beginResetModel();
+            m_records = std::move(records);
+            m_rows = rows;
+            endResetModel();
+            return;
+        }
+        removeAllBut(rows);
+        if (!keepsOrder(rows))
+            reorder(rows);
+        insertMissing(records);
+        m_rows = rows;
+        changeTo(std::move(records));
+    }
+
+    /// Tells that a row's roles are to be read again; all of them when none is named. Does nothing for an unknown key.
+    void touch(const Key &key, const QList<int> &roles = {})
+    {
+        const int row = rowOf(key);
+        if (row >= 0)
+            Q_EMIT dataChanged(index(row), index(row), roles);
+    }
+    void touchAll(const QList<int> &roles = {})
+    {
+        if (!m_records.isEmpty())
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1), roles);
+    }
+
+protected:
+    /// The record of a valid index of this model.
+    [[nodiscard]] const Record &recordAt(const QModelIndex &index) const { return m_records.at(index.row()); }
+
+private:
+    static QHash<Key, int> rowsOf(const QList<Record> &records)
+    {
+        QHash<Key, int> rows;
+        rows.reserve(records.size());
+        for (int row = 0; row < records.size(); ++row)
+            rows.insert(keyOf(records.at(row)), row);
+        return rows;
+    }
+    [[nodiscard]] bool sharesAKey(const QHash<Key, int> &rows) const
+    {
+        for (const Record &record : m_records) {
+            if (rows.contains(keyOf(record)))
+                return true;
+        }
+        return false;
+    }
+    void removeAllBut(const QHash<Key, int> &rows)
+    {
+        for (qsizetype last = m_records.size() - 1; last >= 0; --last) {
+            if (rows.contains(keyOf(m_records.at(last))))
+                continue;
+            qsizetype first = last;
+            while (first > 0 && !rows.contains(keyOf(m_records.at(first - 1))))
+                --first;
+            beginRemoveRows({}, static_cast<int>(first), static_cast<int>(last));
+            m_records.remove(first, last - first + 1);
+            endRemoveRows();
+            last = first;
+        }
+    }
+    [[nodiscard]] bool keepsOrder(const QHash<Key, int> &rows) const
+    {
+        int before = -1;
+        for (const Record &record : m_records) {
+            const int row = rows.value(keyOf(record));
+            if (row < before)
+                return false;
+            before = row;
+        }
+        return true;
+    }
+    void reorder(const QHash<Key, int> &rows)
+    {
+        Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+        const QModelIndexList before = persistentIndexList();
+        QList<Key> keys;
+        for (const QModelIndex &each : before)
+            keys.append(keyOf(m_records.at(each.row())));
+        std::ranges::sort(m_records, [&rows](const Record &a, const Record &b) {
+            return rows.value(keyOf(a)) < rows.value(keyOf(b));
+        });
+        const QHash<Key, int> now = rowsOf(m_records);
+        QModelIndexList after;
+        for (const Key &key : keys)
+            after.append(index(now.value(key)));
+        changePersistentIndexList(before, after);
+        Q_EMIT layoutChanged({}, VerticalSortHint);
+    }
+    void insertMissing(const QList<Record> &records)
+    {
+        const QHash<Key, int> present = rowsOf(m_records);
+        for (qsizetype first = 0; first < records.size(); ++first) {
+            if (present.contains(keyOf(records.at(first))))
+                continue;
+            qsizetype last = first;
+            while (last + 1 < records.size() && !present.contains(keyOf(records.at(last + 1))))
+                ++last;
+            beginInsertRows({}, static_cast<int>(first), static_cast<int>(last));
+            // One piece at a time: taking the list apart for each row would cost the square of its length.
+            m_records = m_records.first(first) + records.sliced(first, last - first + 1) + m_records.sliced(first);
+            endInsertRows();
+            first = last;
+        }
+    }
+    void changeTo(QList<Record> records)
+    {
+        QList<std::pair<int, int>> changed;
+        for (int row = 0; row < records.size(); ++row) {
+            if (m_records.at(row) == records.at(row))
+                continue;
+            if (!changed.isEmpty() && changed.constLast().second == row - 1)
+                changed.last().second = row;
+            else
+                changed.append({row, row});
+        }
+        m_records = std::move(records);
+        for (const auto &[first, last] : std::as_const(changed))
+            Q_EMIT dataChanged(index(first), index(last));
+    }
+
+    QList<Record> m_records;
+    QHash<Key, int> m_rows;
+};
