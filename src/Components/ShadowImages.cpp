@@ -47,7 +47,8 @@ QImage ShadowImages::requestImage(const QString &id, QSize *size, const QSize & 
             const double fade = std::clamp(1 - (away + blur / 2.0) / (blur * 1.5), 0.0, 1.0);
             const double outside = std::clamp(distance(x, y, half, radius) + 0.5, 0.0, 1.0);
             const double alpha = opacity * fade * fade * (3 - 2 * fade) * outside;
-            line[column] = qRgba(colour.red(), colour.green(), colour.blue(), static_cast<int>(std::lround(255 * alpha)));
+            line[column] =
+                qRgba(colour.red(), colour.green(), colour.blue(), static_cast<int>(std::lround(255 * alpha)));
         }
     }
     if (size)

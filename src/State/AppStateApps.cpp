@@ -59,12 +59,8 @@ RemovalReport reportOf(const QList<InstalledApp> &apps, const QList<InstalledApp
     report.alert = std::move(alert);
     report.bytes = count > 0 ? total : 0;
     if (count > 0) {
-        report.activity = ActivityRecord{.id = QUuid::createUuid(),
-                                         .kind = ActivityKind::appUninstalled,
-                                         .title = title,
-                                         .detail = Text::filled(u"%@ removed", {Format::bytes(total)}),
-                                         .bytes = total,
-                                         .date = now};
+        report.activity = RemovalReports::activityOf(ActivityKind::appUninstalled, title,
+                                                     Text::filled(u"%@ removed", {Format::bytes(total)}), total, now);
     }
     return report;
 }

@@ -3,10 +3,8 @@
 #include "Services/TrashService.h"
 #include "State/AppState.h"
 #include "State/AppStateRuns.h"
-#include "State/Outcomes.h"
 #include "State/RemovalReports.h"
 #include "State/Selections.h"
-#include "State/Totals.h"
 #include "Support/Text.h"
 #include "Theme/Format.h"
 
@@ -94,34 +92,17 @@ QCoro::Task<RemovalReport> AppState::runDuplicateRemoval(QPointer<AppState> self
                                         [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
                                          stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
     const TrashResult result = co_await work;
-    const QList<DuplicateFile> removed = RemovalReports::without(files, RemovalReports::stayed(result));
-    const qint64 count = removed.size();
-    const qint64 freed = Totals::sizeOf(removed);
-    RemovalReport report = RemovalReports::reportOf(result, RemovalReports::sizesOf(files));
-    auto [toast, alert] = Outcomes::outcomeOf({.removedCount = count,
-                                               .failedCount = result.failed.size(),
-                                               .bytes = freed,
-                                               .firstError = RemovalReports::firstError(result),
-                                               .partialTitle = {},
-                                               .countInToast = true},
-                                              Outcomes::duplicates);
-    report.toast = std::move(toast);
-    report.alert = std::move(alert);
+    auto settled = RemovalReports::settle(files, result, Outcomes::duplicates, Outcomes::Count::said);
     if (!self)
-        co_return report;
-    if (count > 0) {
+        co_return settled.report;
+    if (const qint64 count = settled.removed.size(); count > 0) {
         // One form for any number, on purpose: so the records have always read.
-        report.activity = ActivityRecord{.id = QUuid::createUuid(),
-                                         .kind = ActivityKind::duplicatesRemoved,
-                                         .title = Text::filled(u"%lld duplicate files removed", {count}),
-                                         .detail = Text::filled(u"%@ removed", {Format::bytes(freed)}),
-                                         .bytes = freed,
-                                         .date = self->m_environment.now()};
-        const QList<FileURL> gone = RemovalReports::urlsOf(removed);
-        self->publish(self->m_duplicateGroups,
-                      thinned(self->m_duplicateGroups, QSet<FileURL>(gone.cbegin(), gone.cend())),
+        settled.report.activity = RemovalReports::activityOf(
+            ActivityKind::duplicatesRemoved, Text::filled(u"%lld duplicate files removed", {count}),
+            Text::filled(u"%@ removed", {Format::bytes(settled.freed)}), settled.freed, self->m_environment.now());
+        self->publish(self->m_duplicateGroups, thinned(self->m_duplicateGroups, settled.gone),
                       &AppState::duplicateGroupsChanged);
     }
-    self->announce(report);
-    co_return report;
+    self->announce(settled.report);
+    co_return settled.report;
 }

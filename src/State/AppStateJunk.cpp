@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "Models/CheckedSum.h"
 #include "Services/JunkScanService.h"
 #include "Services/TrashService.h"
 #include "State/AppState.h"
 #include "State/AppStateRuns.h"
-#include "State/Outcomes.h"
 #include "State/RemovalReports.h"
 #include "State/Totals.h"
 #include "Support/Text.h"
@@ -70,31 +68,17 @@ QCoro::Task<RemovalReport> AppState::runJunkRemoval(QPointer<AppState> self, QUu
                                                        : TrashService::trash(*platform, urls, stop);
                                         });
     const TrashResult result = co_await work;
-    const QList<JunkFile> removed = RemovalReports::without(category.files, RemovalReports::stayed(result));
-    const qint64 freed = Totals::sizeOf(removed);
-    RemovalReport report = RemovalReports::reportOf(result, RemovalReports::sizesOf(category.files));
-    auto [toast, alert] = Outcomes::outcomeOf({.removedCount = removed.size(),
-                                               .failedCount = result.failed.size(),
-                                               .bytes = freed,
-                                               .firstError = RemovalReports::firstError(result),
-                                               .partialTitle = {}},
-                                              Outcomes::junk);
-    report.toast = std::move(toast);
-    report.alert = std::move(alert);
-    if (!removed.isEmpty()) {
-        report.activity = ActivityRecord{.id = QUuid::createUuid(),
-                                         .kind = ActivityKind::junkRemoved,
-                                         .title = Text::filled(u"%@ cleaned", {Text::lookup(category.name)}),
-                                         .detail = Text::filled(u"%@ freed", {Format::bytes(freed)}),
-                                         .bytes = freed,
-                                         .date = self ? self->m_environment.now() : QDateTime()};
-    }
+    auto settled = RemovalReports::settle(category.files, result, Outcomes::junk);
     if (!self)
-        co_return report;
-    const QList<FileURL> gone = RemovalReports::urlsOf(removed);
-    self->dropFromJunk(QSet<FileURL>(gone.cbegin(), gone.cend()));
-    self->announce(report);
-    co_return report;
+        co_return settled.report;
+    if (!settled.removed.isEmpty()) {
+        settled.report.activity = RemovalReports::activityOf(
+            ActivityKind::junkRemoved, Text::filled(u"%@ cleaned", {Text::lookup(category.name)}),
+            Text::filled(u"%@ freed", {Format::bytes(settled.freed)}), settled.freed, self->m_environment.now());
+    }
+    self->dropFromJunk(settled.gone);
+    self->announce(settled.report);
+    co_return settled.report;
 }
 
 void AppState::dropFromJunk(const QSet<FileURL> &removed)

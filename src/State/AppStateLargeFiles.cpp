@@ -3,9 +3,7 @@
 #include "Services/TrashService.h"
 #include "State/AppState.h"
 #include "State/AppStateRuns.h"
-#include "State/Outcomes.h"
 #include "State/RemovalReports.h"
-#include "State/Totals.h"
 #include "Support/Text.h"
 #include "Theme/Format.h"
 
@@ -72,33 +70,18 @@ QCoro::Task<RemovalReport> AppState::runLargeFileRemoval(QPointer<AppState> self
                                         [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
                                          stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
     const TrashResult result = co_await work;
-    const QList<LargeFile> removed = RemovalReports::without(files, RemovalReports::stayed(result));
-    const qint64 count = removed.size();
-    const qint64 freed = Totals::sizeOf(removed);
-    RemovalReport report = RemovalReports::reportOf(result, RemovalReports::sizesOf(files));
-    auto [toast, alert] = Outcomes::outcomeOf({.removedCount = count,
-                                               .failedCount = result.failed.size(),
-                                               .bytes = freed,
-                                               .firstError = RemovalReports::firstError(result),
-                                               .partialTitle = {}},
-                                              Outcomes::largeFiles);
-    report.toast = std::move(toast);
-    report.alert = std::move(alert);
+    auto settled = RemovalReports::settle(files, result, Outcomes::largeFiles);
     if (!self)
-        co_return report;
-    if (count > 0) {
-        report.activity = ActivityRecord{.id = QUuid::createUuid(),
-                                         .kind = ActivityKind::largeFilesRemoved,
-                                         .title = count == 1 ? Text::filled(u"%lld large file removed", {count})
-                                                             : Text::filled(u"%lld large files removed", {count}),
-                                         .detail = Text::filled(u"%@ freed", {Format::bytes(freed)}),
-                                         .bytes = freed,
-                                         .date = self->m_environment.now()};
-        const QList<FileURL> gone = RemovalReports::urlsOf(removed);
-        self->publish(self->m_largeFiles,
-                      RemovalReports::without(self->m_largeFiles, QSet<FileURL>(gone.cbegin(), gone.cend())),
+        co_return settled.report;
+    if (const qint64 count = settled.removed.size(); count > 0) {
+        settled.report.activity = RemovalReports::activityOf(
+            ActivityKind::largeFilesRemoved,
+            count == 1 ? Text::filled(u"%lld large file removed", {count})
+                       : Text::filled(u"%lld large files removed", {count}),
+            Text::filled(u"%@ freed", {Format::bytes(settled.freed)}), settled.freed, self->m_environment.now());
+        self->publish(self->m_largeFiles, RemovalReports::without(self->m_largeFiles, settled.gone),
                       &AppState::largeFilesChanged);
     }
-    self->announce(report);
-    co_return report;
+    self->announce(settled.report);
+    co_return settled.report;
 }

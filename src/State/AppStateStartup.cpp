@@ -4,6 +4,7 @@
 #include "State/AppStateRuns.h"
 #include "State/Confirmations.h"
 #include "State/Outcomes.h"
+#include "State/RemovalReports.h"
 #include "Support/Text.h"
 
 #include <QCoro/QCoroFuture>
@@ -111,12 +112,8 @@ QCoro::Task<RemovalReport> AppState::runStartupRemoval(QPointer<AppState> self, 
     self->publish(self->m_startupItems, std::move(items), &AppState::startupItemsChanged);
     const QString name = Confirmations::displayName(item);
     report.removed.append({.url = item.path, .size = {}});
-    report.activity = ActivityRecord{.id = QUuid::createUuid(),
-                                     .kind = ActivityKind::startupItemRemoved,
-                                     .title = Text::filled(u"%@ removed", {name}),
-                                     .detail = Text::lookup(rawValue(item.type)),
-                                     .bytes = 0,
-                                     .date = self->m_environment.now()};
+    report.activity = RemovalReports::activityOf(ActivityKind::startupItemRemoved, Text::filled(u"%@ removed", {name}),
+                                                 Text::lookup(rawValue(item.type)), 0, self->m_environment.now());
     report.toast = ToastData{
         .symbol = u"checkmark.circle.fill"_s, .tintHex = Tint::success, .message = Text::filled(u"Removed %@", {name})};
     self->announce(report);

@@ -27,10 +27,11 @@ Outcomes::Notice Outcomes::outcomeOf(const Facts &facts, const Wording &wording)
                                     {freed, facts.failedCount})};
         return notice;
     }
-    notice.toast = ToastData{.symbol = u"checkmark.circle.fill"_s,
-                             .tintHex = Tint::success,
-                             .message = facts.countInToast ? Text::filled(wording.toast, {facts.removedCount, freed})
-                                                           : Text::filled(wording.toast, {freed})};
+    notice.toast =
+        ToastData{.symbol = u"checkmark.circle.fill"_s,
+                  .tintHex = Tint::success,
+                  .message = facts.count == Count::said ? Text::filled(wording.toast, {facts.removedCount, freed})
+                                                        : Text::filled(wording.toast, {freed})};
     return notice;
 }
 

@@ -20,13 +20,16 @@ struct Wording {
     QStringView toast; // filled with the arguments that `Facts` gives
 };
 
+/// Whether the toast names how many went, before how much.
+enum class Count { unsaid, said };
+
 struct Facts {
     qint64 removedCount = 0; // entries of the list that went
     qint64 failedCount = 0;
     qint64 bytes = 0;
     std::optional<std::error_code> firstError;
     std::optional<QString> partialTitle; // of the alert when some were skipped; the wording's own when absent
-    bool countInToast = false;           // whether the toast names how many went, before how much
+    Count count = Count::unsaid;
 };
 
 struct Notice {

@@ -27,3 +27,9 @@ std::optional<std::error_code> RemovalReports::firstError(const TrashResult &res
 {
     return result.failed.isEmpty() ? std::nullopt : std::optional{result.failed.first().error};
 }
+
+ActivityRecord RemovalReports::activityOf(ActivityKind kind, const QString &title, const QString &detail, qint64 bytes,
+                                          const QDateTime &now)
+{
+    return {.id = QUuid::createUuid(), .kind = kind, .title = title, .detail = detail, .bytes = bytes, .date = now};
+}

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "Models/Removal.h"
+#include "State/Outcomes.h"
+#include "State/Totals.h"
 
 #include <QHash>
 #include <QList>
@@ -40,6 +42,10 @@ template <typename Record>
     return sizes;
 }
 
+/// The record of the history of something that was removed; `bytes` as reported.
+[[nodiscard]] ActivityRecord activityOf(ActivityKind kind, const QString &title, const QString &detail, qint64 bytes,
+                                        const QDateTime &now);
+
 /// The records whose URL is not among `urls`, in order.
 template <typename Record>
 [[nodiscard]] QList<Record> without(const QList<Record> &records, const QSet<FileURL> &urls)
@@ -50,6 +56,38 @@ template <typename Record>
             rest.append(record);
     }
     return rest;
+}
+
+/// What the removal of a list of files came to.
+template <typename Record>
+struct Settled {
+    QList<Record> removed; // the entries that went, in order
+    QSet<FileURL> gone;    // their URLs
+    qint64 freed = 0;      // the bytes of those
+    RemovalReport report;  // with its notices, without its record
+};
+
+/// Judges the removal of `asked`: what went, and what the user is told of it.
+template <typename Record>
+[[nodiscard]] Settled<Record> settle(const QList<Record> &asked, const TrashResult &result,
+                                     const Outcomes::Wording &wording, Outcomes::Count count = Outcomes::Count::unsaid)
+{
+    Settled<Record> settled;
+    settled.removed = without(asked, stayed(result));
+    settled.report = reportOf(result, sizesOf(asked));
+    const QList<FileURL> urls = urlsOf(settled.removed);
+    settled.gone = QSet<FileURL>(urls.cbegin(), urls.cend());
+    settled.freed = Totals::sizeOf(settled.removed);
+    auto [toast, alert] = Outcomes::outcomeOf({.removedCount = settled.removed.size(),
+                                               .failedCount = result.failed.size(),
+                                               .bytes = settled.freed,
+                                               .firstError = firstError(result),
+                                               .partialTitle = {},
+                                               .count = count},
+                                              wording);
+    settled.report.toast = std::move(toast);
+    settled.report.alert = std::move(alert);
+    return settled;
 }
 
 } // namespace RemovalReports

@@ -28,6 +28,7 @@ class Typo : public QObject
     Q_PROPERTY(QFont detail READ detail NOTIFY changed FINAL)           ///< 12 regular
     Q_PROPERTY(QFont smallMedium READ smallMedium NOTIFY changed FINAL) ///< 11 medium
     Q_PROPERTY(QFont tiny READ tiny NOTIFY changed FINAL)               ///< 10 regular
+    Q_PROPERTY(QFont brand READ brand NOTIFY changed FINAL)             ///< 17 semibold
     Q_PROPERTY(QFont badge READ badge NOTIFY changed FINAL)             ///< 9 medium
 
 public:
@@ -45,6 +46,7 @@ public:
     [[nodiscard]] QFont detail() const { return font(12, QFont::Normal); }
     [[nodiscard]] QFont smallMedium() const { return font(11, QFont::Medium); }
     [[nodiscard]] QFont tiny() const { return font(10, QFont::Normal); }
+    [[nodiscard]] QFont brand() const { return font(17, QFont::DemiBold); }
     [[nodiscard]] QFont badge() const { return font(9, QFont::Medium); }
 
     /// Chooses the families for the interface language of the moment. Called when that changes.

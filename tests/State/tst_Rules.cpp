@@ -207,7 +207,7 @@ TEST(Outcomes, nameTheCountWhereTheToastDoes)
                           .bytes = 1'200'000,
                           .firstError = {},
                           .partialTitle = {},
-                          .countInToast = true};
+                          .count = Outcomes::Count::said};
     EXPECT_EQ(Outcomes::outcomeOf(facts, Outcomes::duplicates).toast,
               (ToastData{.symbol = u"checkmark.circle.fill"_s,
                          .tintHex = 0x22C55E,

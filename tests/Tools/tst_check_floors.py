@@ -94,6 +94,18 @@ class CheckFloors(unittest.TestCase):
         self.plant("src/Services/Planted.cpp", "#include <QDBusConnection>\n")
         self.refuses("src/Services/Planted.cpp:2", "Services may not use QDBusConnection of QtDBus")
 
+    def test_pages_are_built_on_components_and_not_the_reverse(self):
+        self.plant("src/Views/Planted.qml", "import QtQuick\nimport Brisko.Components\nimport Brisko.Pages\n")
+        self.accepts()
+        self.plant("src/Components/Planted.qml", "import QtQuick\nimport Brisko.Pages\n")
+        self.refuses("src/Components/Planted.qml:3", "Components may not import Brisko.Pages")
+
+    def test_refuses_foreign_controls_and_unknown_modules(self):
+        self.plant("src/Components/Planted.qml", "import QtQuick.Controls\n")
+        self.refuses("src/Components/Planted.qml:2", "imports QtQuick.Controls")
+        self.plant("src/Components/Planted.qml", "import Brisko.Nowhere\n")
+        self.refuses("src/Components/Planted.qml:2", "no module of ours")
+
     def test_refuses_to_ask_for_the_system_outside_platform(self):
         self.plant("src/Platform/Planted.cpp", "#ifdef __linux__\n#endif\n")
         self.accepts()
