@@ -180,6 +180,31 @@ std::optional<QByteArray> Context::digestOf(const OpenFile &file)
     });
 }
 
+void Context::startLong(WorkQueue::Work work)
+{
+    const std::lock_guard lock(m_mutex);
+    m_long.push_back(std::move(work));
+    // While some workers keep the disk busy, the others hash what those have brought into memory.
+    if (m_longRunning < std::max(1, m_limits.workers / 2)) {
+        ++m_longRunning;
+        m_workers.add([this] { runLong(); });
+    }
+}
+
+void Context::runLong()
+{
+    std::unique_lock lock(m_mutex);
+    while (!m_long.empty()) {
+        WorkQueue::Work work = std::move(m_long.front());
+        m_long.pop_front();
+        lock.unlock();
+        work();
+        work = nullptr;
+        lock.lock();
+    }
+    --m_longRunning;
+}
+
 void Context::inParallel(int count, const std::function<void(int)> &work)
 {
     struct Shared {

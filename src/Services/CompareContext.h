@@ -9,6 +9,7 @@
 #include "Services/WorkQueue.h"
 
 #include <atomic>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -79,6 +80,10 @@ public:
 
     /// Runs `work` on a worker.
     void start(WorkQueue::Work work) { m_workers.add(std::move(work)); }
+    /// As `start`, but before all that waits.
+    void startNext(WorkQueue::Work work) { m_workers.addFirst(std::move(work)); }
+    /// As `start`, for what keeps the disk busy by itself: of such work little runs at a time, one after the other.
+    void startLong(WorkQueue::Work work);
     /// Runs work(0) to work(count - 1) on this and on idle workers; returns when all are done.
     void inParallel(int count, const std::function<void(int)> &work);
     void waitForWorkers() { m_workers.waitUntilIdle(); }
@@ -95,6 +100,7 @@ private:
     [[nodiscard]] const Candidate &candidate(quint32 name) const { return m_candidates[m_order[name]]; }
     void makeUnits();
     void joinNames(size_t from, size_t to);
+    void runLong();
     [[nodiscard]] std::vector<qsizetype> listedNames(const std::vector<Member> &members) const;
 
     const std::vector<Candidate> &m_candidates;
@@ -105,7 +111,9 @@ private:
     std::vector<Unit> m_units;    // largest first, then in the order of the candidates
     const Sha256 m_sha;
     std::mutex m_mutex;
-    std::vector<EqualSet> m_results; // guarded by m_mutex
+    std::vector<EqualSet> m_results;    // guarded by m_mutex, as are the next two
+    std::deque<WorkQueue::Work> m_long; // waits for its turn
+    int m_longRunning = 0;              // workers that take it
     std::atomic<qint64> m_opens = 0;
     std::atomic<qint64> m_bytesRead = 0;
     std::atomic<qint64> m_bytesHashed = 0;

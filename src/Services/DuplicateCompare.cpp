@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Services/DuplicateCompare.h"
 
+#include "Services/BlockCompare.h"
 #include "Services/CompareContext.h"
 #include "Services/DuplicateTables.h"
 
@@ -150,7 +151,9 @@ private:
         const auto hand = [&](qint64 size, std::vector<Work> work) {
             constexpr qint64 alone = 1024 * 1024; // bytes; comparing shorter files is less work than handing it over
             for (Work &one : work) {
-                if (size >= alone)
+                if (size > BlockCompare::kRange)
+                    m_context.startLong(std::move(one));
+                else if (size >= alone)
                     m_context.start(std::move(one));
                 else
                     together.push_back(std::move(one));
@@ -252,7 +255,7 @@ private:
 
 Limits limitsFor(int processors, qsizetype candidates)
 {
-    constexpr int fewestWorkers = 2;
+    constexpr int fewestWorkers = 3;
     constexpr int mostWorkers = 6;
     constexpr int mostDescriptors = 256;
     constexpr int fewestDescriptors = 32;

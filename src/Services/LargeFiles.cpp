@@ -307,7 +307,9 @@ void LargeFiles::finish()
             for (const std::shared_ptr<Copies> &copies : some)
                 self->hash(*copies);
         };
-        if (to == sets.size())
+        if (m_size > BlockCompare::kRange)
+            m_context.startNext(work); // the next files can be fetched meanwhile
+        else if (to == sets.size())
             work(); // this is a worker, and has nothing else to do
         else
             m_context.start(work);
