@@ -207,6 +207,10 @@ void Context::runLong()
 
 void Context::inParallel(int count, const std::function<void(int)> &work)
 {
+    if (count == 1) {
+        work(0);
+        return;
+    }
     struct Shared {
         std::atomic<int> next = 0;
         std::mutex mutex;

@@ -175,6 +175,12 @@ private:
         }
         if (together.empty())
             return;
+        if (!m_isWaiting) {
+            // Nobody waits for the disk: another thread would only do the same later, and find the bytes further away.
+            for (const Work &one : together)
+                one();
+            return;
+        }
         m_context.start([work = std::move(together)] {
             for (const Work &one : work)
                 one();
