@@ -4,6 +4,8 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace CommandLine {
@@ -24,7 +26,10 @@ void appendEscape(QByteArray &buffer, char16_t unit)
 
 void appendPadded(QByteArray &buffer, int number, int digits)
 {
-    buffer += QByteArray::number(number).rightJustified(digits, '0');
+    const qsizetype at = buffer.size();
+    buffer.resize(at + digits);
+    for (char *digit = buffer.data() + at + digits; digits > 0; --digits, number /= 10)
+        *--digit = static_cast<char>('0' + number % 10);
 }
 
 } // namespace
@@ -94,7 +99,9 @@ void JsonWriter::appendText(QStringView value)
 {
     m_buffer += '"';
     if (std::ranges::all_of(value, isPlain)) {
-        m_buffer += value.toLatin1();
+        const qsizetype at = m_buffer.size();
+        m_buffer.resize(at + value.size());
+        std::ranges::transform(value, m_buffer.data() + at, &QChar::toLatin1);
     } else {
         qsizetype from = 0;
         for (qsizetype i = 0; i < value.size(); ++i) {
@@ -127,7 +134,9 @@ void JsonWriter::plainText(QByteArrayView ascii)
 void JsonWriter::number(qint64 value)
 {
     separate();
-    m_buffer += QByteArray::number(value);
+    std::array<char, 24> digits; // room for any 64 bits
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    m_buffer.append(digits.data(), end - digits.data());
     endValue();
 }
 
