@@ -21,7 +21,7 @@ using FolderPrimitives::FolderStream;
 using FolderPrimitives::RawEntry;
 
 constexpr size_t kBlock = 64 * 1024;       // bytes read of a folder at a time
-constexpr size_t kMaxHelpers = 5;          // beside the owner; on a cold disk more threads than processors pay
+constexpr size_t kMaxHelpers = 11;         // beside the owner; on a cold disk more threads than processors pay
 constexpr size_t kWorthAHelper = 8;        // folders to take before another thread is started
 constexpr size_t kMostWaiting = 64 * 1024; // entries read ahead
 constexpr size_t kRoomAgain = kMostWaiting / 2;
