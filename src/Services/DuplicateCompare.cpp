@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <latch>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -59,13 +60,19 @@ std::vector<Batch> makeBatches(Context &context)
 class Reader
 {
 public:
-    explicit Reader(Context &context)
+    /// Who does what the reading leaves to do.
+    enum class Rest : bool { isDoneHere, isHandedOver };
+
+    Reader(Context &context, Rest rest)
         : m_context(context)
+        , m_rest(rest)
     {
     }
 
-    void take(const Batch &batch)
+    /// `lease` covers the files of the batch.
+    void take(const Batch &batch, Budget::Share lease)
     {
+        m_lease = std::move(lease);
         if (!m_memory)
             m_memory = std::make_unique_for_overwrite<char[]>(kSlice * kPrefix);
         open(batch);
@@ -100,7 +107,6 @@ private:
     void open(const Batch &batch)
     {
         m_isWaiting = false;
-        m_lease = m_context.descriptors.take(batch.to - batch.from);
         for (quint32 unit = batch.from; unit < batch.to; ++unit) {
             if (m_context.isCancelled())
                 break;
@@ -175,8 +181,7 @@ private:
         }
         if (together.empty())
             return;
-        if (!m_isWaiting) {
-            // Nobody waits for the disk: another thread would only do the same later, and find the bytes further away.
+        if (m_rest == Rest::isDoneHere) {
             for (const Work &one : together)
                 one();
             return;
@@ -188,14 +193,16 @@ private:
     }
 
     Context &m_context;
+    const Rest m_rest;
     std::unique_ptr<char[]> m_memory;
     std::vector<Opened> m_opened;
     Budget::Share m_lease; // for the files of the batch in hand
     bool m_isWaiting = false;
 };
 
-/// Reads all batches, on this thread and others. What lies in memory keeps the processors busy enough with as many
-/// readers as there are workers; more of them come only once the disk has to be waited for.
+/// Reads all batches. What lies in memory is read and compared by the workers themselves: to hand it from thread to
+/// thread would cost more than the work. Once the disk has to be waited for, threads of their own read the rest, more
+/// of them than there are workers, who then compare and hash what those bring.
 class ReadingStage
 {
 public:
@@ -207,6 +214,45 @@ public:
     }
 
     void run()
+    {
+        readOnWorkers();
+        if (m_next < m_batches.size())
+            readOnThreads();
+    }
+
+private:
+    void readOnWorkers()
+    {
+        const auto workers = std::min(m_batches.size(), static_cast<size_t>(m_context.limits().workers));
+        const auto reading = std::make_shared<std::latch>(static_cast<std::ptrdiff_t>(workers));
+        for (size_t worker = 0; worker < workers; ++worker) {
+            m_context.start([this, reading] {
+                readAtHand();
+                reading->count_down();
+            });
+        }
+        reading->wait();
+    }
+
+    /// Reads until something has to be waited for. A worker never waits for descriptors: those who have them may be
+    /// waiting for a worker.
+    void readAtHand()
+    {
+        Reader reader(m_context, Reader::Rest::isDoneHere);
+        while (!m_hasToWait && !m_context.isCancelled()) {
+            Budget::Share lease = m_context.descriptors.tryTake(kSlice);
+            const size_t at = lease.isEmpty() ? m_batches.size() : m_next++;
+            if (lease.isEmpty())
+                m_hasToWait = true;
+            if (at >= m_batches.size())
+                break;
+            reader.take(m_batches[at], std::move(lease));
+            if (reader.hadToWait())
+                m_hasToWait = true;
+        }
+    }
+
+    void readOnThreads()
     {
         while (m_started < std::min(m_most, static_cast<size_t>(m_context.limits().workers)))
             startAnother();
@@ -224,12 +270,12 @@ public:
         }
     }
 
-private:
     void read()
     {
-        Reader reader(m_context);
+        Reader reader(m_context, Reader::Rest::isHandedOver);
         for (size_t at = m_next++; at < m_batches.size() && !m_context.isCancelled(); at = m_next++) {
-            reader.take(m_batches[at]);
+            const Batch &batch = m_batches[at];
+            reader.take(batch, m_context.descriptors.take(batch.to - batch.from));
             if (reader.hadToWait() && m_started < m_most)
                 startAnother();
         }
@@ -252,7 +298,8 @@ private:
     const std::vector<Batch> &m_batches;
     const size_t m_most;
     std::atomic<size_t> m_next = 0;
-    std::atomic<size_t> m_started = 1; // readers, this thread included; changed under the lock
+    std::atomic<bool> m_hasToWait = false; // for the disk, or for descriptors
+    std::atomic<size_t> m_started = 1;     // readers, this thread included; changed under the lock
     std::mutex m_mutex;
     std::vector<std::thread> m_threads; // guarded by m_mutex
 };
@@ -261,7 +308,7 @@ private:
 
 Limits limitsFor(int processors, qsizetype candidates)
 {
-    constexpr int fewestWorkers = 3;
+    constexpr int fewestWorkers = 2;
     constexpr int mostWorkers = 6;
     constexpr int mostDescriptors = 256;
     constexpr int fewestDescriptors = 32;

@@ -460,6 +460,36 @@ TEST_F(DuplicateCompareTest, LargeFilesThatDifferEarlyOrAtTheEndAreHardlyRead)
     EXPECT_EQ(outcome.cost.opens, 3);
 }
 
+TEST_F(DuplicateCompareTest, LongFilesAreToldApartWhereverTheyDiffer)
+{
+    const auto addSparse = [&](const QByteArray &name, qint64 size, std::optional<qint64> place) {
+        const FileURL made = m_tree.sparseFile(name, size);
+        if (place) {
+            const int fd = ::open(made.path().constData(), O_WRONLY | O_CLOEXEC);
+            ASSERT_EQ(::pwrite(fd, "x", 1, *place), 1);
+            ::close(fd);
+        }
+        m_candidates.push_back(candidateAt(made));
+    };
+    // More sizes than are compared at a time, each with a pair and one that differs at the end, in the middle or early.
+    constexpr int sizes = 6;
+    Names expected;
+    for (int which = 0; which < sizes; ++which) {
+        const qint64 size = BlockCompare::kRange + 1 + which * 100;
+        const QByteArray name = QByteArray::number(which);
+        const std::vector<qint64> places{size - 1, size / 2, BlockCompare::kRange - 1, kPrefix, kPrefix - 1, 0};
+        addSparse(name + "-a", size, std::nullopt);
+        addSparse(name + "-other", size, places[static_cast<size_t>(which)]);
+        addSparse(name + "-b", size, std::nullopt);
+        expected.push_back({name + "-a", name + "-b"});
+    }
+    const Outcome outcome = compare(m_candidates);
+    EXPECT_EQ(outcome.names, expected);
+    EXPECT_EQ(outcome.settled, 3 * sizes);
+    EXPECT_EQ(outcome.cost.opens, 3 * sizes);
+    EXPECT_EQ(outcome.cost.bytesHashed, bytesOfOneEach(m_candidates, outcome));
+}
+
 TEST_F(DuplicateCompareTest, ACancelledComparisonEndsSoon)
 {
     // A pair that differs early is settled first; then gigabytes are under way.
