@@ -23,6 +23,9 @@ public:
     /// Hands an address to the desktop: `https:` and `mailto:` only, and the fixed address of the settings pane.
     /// Answers whether it was handed over. Main thread.
     virtual bool open(const QUrl &address) const = 0;
+    /// Shows an item in the file manager, chosen in the folder that holds it where the file manager can do that.
+    /// Nothing is opened or run but folders. Returns at once. Main thread.
+    virtual void showInFileManager(const FileURL &item) const = 0;
     /// The name under which the file manager shows a bundle. Any thread.
     [[nodiscard]] virtual QString displayName(const FileURL &bundle) const = 0;
     /// What the bundle declares of itself; all absent when it cannot be opened. Any thread.

@@ -239,6 +239,7 @@ public:
         opened.append(address);
         return true;
     }
+    void showInFileManager(const FileURL &item) const override { shown.append(item); }
     [[nodiscard]] QString displayName(const FileURL &bundle) const override
     {
         QString name = bundle.nameText();
@@ -249,6 +250,7 @@ public:
     [[nodiscard]] BundleInfo bundleInfo(const FileURL &bundle) const override { return bundles.value(bundle); }
 
     mutable QList<QUrl> opened;
+    mutable QList<FileURL> shown;
     QHash<FileURL, BundleInfo> bundles;
 };
 

@@ -4,6 +4,9 @@
 #include "Platform/FileSystem.h"
 #include "Platform/Linux/LinuxPropertyList.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +39,15 @@ std::optional<FileURL> iconOf(const FileURL &bundle, const QString &name)
     return std::nullopt;
 }
 
+/// Opens the folder that holds an item. Only a folder: an opener would run a file, or hand it to another program.
+void openFolderOf(const FileURL &item, const LinuxWorkspace::Launch &launch)
+{
+    const FileURL folder = item.parent();
+    const auto found = FileSystem::attributes(folder, FileSystem::Root::follow);
+    if (found && found->kind == FileSystem::Kind::folder)
+        launch(u"xdg-open"_s, {QString::fromLatin1(folder.encoded())});
+}
+
 } // namespace
 
 LinuxWorkspace::LinuxWorkspace(Launch launch)
@@ -49,6 +61,27 @@ bool LinuxWorkspace::open(const QUrl &address) const
         return false;
     // Fully encoded, so that it is one word of plain characters; its scheme keeps it from being taken for an option.
     return m_launch(u"xdg-open"_s, {QString::fromLatin1(address.toEncoded())});
+}
+
+void LinuxWorkspace::showInFileManager(const FileURL &item) const
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        openFolderOf(item, m_launch);
+        return;
+    }
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s,
+                                       u"org.freedesktop.FileManager1"_s, u"ShowItems"_s);
+    call << QStringList{QString::fromLatin1(item.encoded())} << QString();
+    // A file manager that is started for this call takes its time.
+    constexpr int kPatience = 10'000; // ms
+    auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(call, kPatience));
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, answer, [answer, item, launch = m_launch] {
+        answer->deleteLater();
+        if (answer->isError())
+            openFolderOf(item, launch);
+    });
 }
 
 QString LinuxWorkspace::displayName(const FileURL &bundle) const

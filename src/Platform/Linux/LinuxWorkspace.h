@@ -19,6 +19,8 @@ public:
 
     /// This desktop has no settings pane at the one fixed address: that is answered false.
     bool open(const QUrl &address) const override;
+    /// Asks the desktop's file manager over the session's bus; opens the folder alone when none answers.
+    void showInFileManager(const FileURL &item) const override;
     /// The bundle's file name without its `.app` ending.
     [[nodiscard]] QString displayName(const FileURL &bundle) const override;
     [[nodiscard]] BundleInfo bundleInfo(const FileURL &bundle) const override;
