@@ -477,6 +477,258 @@
         <translation>Laufwerkstemperatur</translation>
     </message>
     <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Startup</source>
+        <translation>Autostart</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Your Mac, Cleaner and Lighter</source>
+        <translation>Dein Mac, sauberer und leichter</translation>
+    </message>
+    <message>
+        <source>Free up space, remove junk, and keep your Mac running at its best.</source>
+        <translation>Schaffe Platz, entferne Datenmüll und halte deinen Mac in Bestform.</translation>
+    </message>
+    <message>
+        <source>Processor load</source>
+        <translation>Prozessorauslastung</translation>
+    </message>
+    <message>
+        <source>NAND flash</source>
+        <translation>NAND-Flash</translation>
+    </message>
+    <message>
+        <source>Unavailable</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Freeable Space</source>
+        <translation>Freigebbarer Speicher</translation>
+    </message>
+    <message>
+        <source>Caches, duplicates &amp; unused apps</source>
+        <translation>Caches, Duplikate und ungenutzte Apps</translation>
+    </message>
+    <message>
+        <source>Unused applications</source>
+        <translation>Ungenutzte Programme</translation>
+    </message>
+    <message>
+        <source>Duplicate files</source>
+        <translation>Doppelte Dateien</translation>
+    </message>
+    <message>
+        <source>Large file cleanup</source>
+        <translation>Große Dateien aufräumen</translation>
+    </message>
+    <message>
+        <source>Caches &amp; logs</source>
+        <translation>Caches und Protokolle</translation>
+    </message>
+    <message>
+        <source>%lld%%</source>
+        <translation>%lld %%</translation>
+    </message>
+    <message>
+        <source>%@ / %@</source>
+        <translation>%@ / %@</translation>
+    </message>
+    <message>
+        <source>Calculating…</source>
+        <translation>Wird berechnet …</translation>
+    </message>
+    <message>
+        <source>Select applications to uninstall</source>
+        <translation>Apps zum Deinstallieren auswählen</translation>
+    </message>
+    <message>
+        <source>%lld items selected · %@</source>
+        <translation>%lld Objekte ausgewählt · %@</translation>
+    </message>
+    <message>
+        <source>%lld item selected · %@</source>
+        <translation>%lld Objekt ausgewählt · %@</translation>
+    </message>
+    <message>
+        <source>%@+</source>
+        <translation>%@+</translation>
+    </message>
+    <message>
+        <source>Related Files · %@</source>
+        <translation>Zugehörige Dateien · %@</translation>
+    </message>
+    <message>
+        <source>No related files</source>
+        <translation>Keine zugehörigen Dateien</translation>
+    </message>
+    <message>
+        <source>No related files found for this app.</source>
+        <translation>Zu dieser App wurden keine weiteren Dateien gefunden.</translation>
+    </message>
+    <message>
+        <source>Looking for related files…</source>
+        <translation>Zugehörige Dateien werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Full Disk Access required</source>
+        <translation>Festplattenvollzugriff erforderlich</translation>
+    </message>
+    <message>
+        <source>Full Disk Access Required</source>
+        <translation>Festplattenvollzugriff erforderlich</translation>
+    </message>
+    <message>
+        <source>Grant Full Disk Access, then restart Brisko to scan app container data (caches, settings) and uninstall apps completely.</source>
+        <translation>Gewähre den Festplattenvollzugriff und starte Brisko dann neu, um Daten in App-Containern (Caches, Einstellungen) zu durchsuchen und Apps vollständig zu deinstallieren.</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Systemeinstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Scan Apps</source>
+        <translation>Apps suchen</translation>
+    </message>
+    <message>
+        <source>Show files of %@</source>
+        <translation>Dateien von %@ anzeigen</translation>
+    </message>
+    <message>
+        <source>Hide files of %@</source>
+        <translation>Dateien von %@ ausblenden</translation>
+    </message>
+    <message>
+        <source>Startup Items</source>
+        <translation>Startobjekte</translation>
+    </message>
+    <message>
+        <source>Press Scan to list startup items</source>
+        <translation>Auf „Scannen“ klicken, um Startobjekte aufzulisten</translation>
+    </message>
+    <message>
+        <source>No startup items yet</source>
+        <translation>Noch keine Startobjekte</translation>
+    </message>
+    <message>
+        <source>Press Scan to find Launch Agents and Daemons</source>
+        <translation>Auf „Scannen“ klicken, um Agenten und Dienste zu finden</translation>
+    </message>
+    <message>
+        <source>%lld item · %lld enabled</source>
+        <translation>%lld Objekt · %lld aktiviert</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>Deaktivieren</translation>
+    </message>
+    <message>
+        <source>Remove %@</source>
+        <translation>%@ entfernen</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Duplicate Scan Folders</source>
+        <translation>Ordner für die Duplikatsuche</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ordner hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Choose a folder to scan for duplicate files.</source>
+        <translation>Wähle einen Ordner, der nach doppelten Dateien durchsucht werden soll.</translation>
+    </message>
+    <message>
+        <source>Remove folder %@</source>
+        <translation>Ordner %@ entfernen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Brisko %@</source>
+        <translation>Brisko %@</translation>
+    </message>
+    <message>
+        <source>A Cleaner, Lighter Mac — More Space. A Brighter Tomorrow.</source>
+        <translation>Ein sauberer, leichterer Mac – mehr Platz. Ein hellerer Morgen.</translation>
+    </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Suche nach Updates …</translation>
+    </message>
+    <message>
+        <source>Privacy Policy</source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message>
+        <source>Terms of Service</source>
+        <translation>Nutzungsbedingungen</translation>
+    </message>
+    <message>
+        <source>Contact Us</source>
+        <translation>Kontakt</translation>
+    </message>
+    <message>
+        <source>Open Brisko</source>
+        <translation>Brisko öffnen</translation>
+    </message>
+    <message>
+        <source>Quit Brisko</source>
+        <translation>Brisko beenden</translation>
+    </message>
+    <message>
+        <source>What's New</source>
+        <translation>Neuigkeiten</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Diese Version überspringen</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>Später erinnern</translation>
+    </message>
+    <message>
         <source>Update Available</source>
         <translation>Update verfügbar</translation>
     </message>

@@ -477,6 +477,258 @@
         <translation>ディスクの温度</translation>
     </message>
     <message>
+        <source>Overview</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Startup</source>
+        <translation>スタートアップ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Your Mac, Cleaner and Lighter</source>
+        <translation>Macをもっときれいに、もっと軽く</translation>
+    </message>
+    <message>
+        <source>Free up space, remove junk, and keep your Mac running at its best.</source>
+        <translation>空き容量を増やし、不要なファイルを取り除いて、Macを快適に保ちましょう。</translation>
+    </message>
+    <message>
+        <source>Processor load</source>
+        <translation>プロセッサの負荷</translation>
+    </message>
+    <message>
+        <source>NAND flash</source>
+        <translation>NANDフラッシュ</translation>
+    </message>
+    <message>
+        <source>Unavailable</source>
+        <translation>利用できません</translation>
+    </message>
+    <message>
+        <source>Freeable Space</source>
+        <translation>解放できる容量</translation>
+    </message>
+    <message>
+        <source>Caches, duplicates &amp; unused apps</source>
+        <translation>キャッシュ、重複、未使用のアプリ</translation>
+    </message>
+    <message>
+        <source>Unused applications</source>
+        <translation>未使用のアプリケーション</translation>
+    </message>
+    <message>
+        <source>Duplicate files</source>
+        <translation>重複ファイル</translation>
+    </message>
+    <message>
+        <source>Large file cleanup</source>
+        <translation>大きなファイルの整理</translation>
+    </message>
+    <message>
+        <source>Caches &amp; logs</source>
+        <translation>キャッシュとログ</translation>
+    </message>
+    <message>
+        <source>%lld%%</source>
+        <translation>%lld%%</translation>
+    </message>
+    <message>
+        <source>%@ / %@</source>
+        <translation>%@ / %@</translation>
+    </message>
+    <message>
+        <source>Calculating…</source>
+        <translation>計算中…</translation>
+    </message>
+    <message>
+        <source>Select applications to uninstall</source>
+        <translation>アンインストールするアプリを選択してください</translation>
+    </message>
+    <message>
+        <source>%lld items selected · %@</source>
+        <translation>%lld個の項目を選択中 · %@</translation>
+    </message>
+    <message>
+        <source>%lld item selected · %@</source>
+        <translation>%lld個の項目を選択中 · %@</translation>
+    </message>
+    <message>
+        <source>%@+</source>
+        <translation>%@+</translation>
+    </message>
+    <message>
+        <source>Related Files · %@</source>
+        <translation>関連ファイル · %@</translation>
+    </message>
+    <message>
+        <source>No related files</source>
+        <translation>関連ファイルなし</translation>
+    </message>
+    <message>
+        <source>No related files found for this app.</source>
+        <translation>このアプリの関連ファイルは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Looking for related files…</source>
+        <translation>関連ファイルを探しています…</translation>
+    </message>
+    <message>
+        <source>Full Disk Access required</source>
+        <translation>フルディスクアクセスが必要です</translation>
+    </message>
+    <message>
+        <source>Full Disk Access Required</source>
+        <translation>フルディスクアクセスが必要です</translation>
+    </message>
+    <message>
+        <source>Grant Full Disk Access, then restart Brisko to scan app container data (caches, settings) and uninstall apps completely.</source>
+        <translation>フルディスクアクセスを許可してからBriskoを再起動すると、アプリのコンテナのデータ（キャッシュ、設定）を調べ、アプリを完全にアンインストールできます。</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>システム設定を開く</translation>
+    </message>
+    <message>
+        <source>Scan Apps</source>
+        <translation>アプリをスキャン</translation>
+    </message>
+    <message>
+        <source>Show files of %@</source>
+        <translation>%@のファイルを表示</translation>
+    </message>
+    <message>
+        <source>Hide files of %@</source>
+        <translation>%@のファイルを隠す</translation>
+    </message>
+    <message>
+        <source>Startup Items</source>
+        <translation>スタートアップ項目</translation>
+    </message>
+    <message>
+        <source>Press Scan to list startup items</source>
+        <translation>「スキャン」を押すとスタートアップ項目を一覧表示します</translation>
+    </message>
+    <message>
+        <source>No startup items yet</source>
+        <translation>スタートアップ項目はまだありません</translation>
+    </message>
+    <message>
+        <source>Press Scan to find Launch Agents and Daemons</source>
+        <translation>「スキャン」を押すと起動エージェントとデーモンを検索します</translation>
+    </message>
+    <message>
+        <source>%lld item · %lld enabled</source>
+        <translation>%lld個の項目 · %lld個が有効</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>有効にする</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>無効にする</translation>
+    </message>
+    <message>
+        <source>Remove %@</source>
+        <translation>%@を削除</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Duplicate Scan Folders</source>
+        <translation>重複を調べるフォルダ</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>フォルダを追加…</translation>
+    </message>
+    <message>
+        <source>Choose a folder to scan for duplicate files.</source>
+        <translation>重複ファイルを調べるフォルダを選択してください。</translation>
+    </message>
+    <message>
+        <source>Remove folder %@</source>
+        <translation>フォルダ%@を取り除く</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>このアプリについて</translation>
+    </message>
+    <message>
+        <source>Brisko %@</source>
+        <translation>Brisko %@</translation>
+    </message>
+    <message>
+        <source>A Cleaner, Lighter Mac — More Space. A Brighter Tomorrow.</source>
+        <translation>もっときれいで軽いMac。広がる空き容量と、明るい明日。</translation>
+    </message>
+    <message>
+        <source>Check for Updates</source>
+        <translation>アップデートを確認</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>アップデートを確認中…</translation>
+    </message>
+    <message>
+        <source>Privacy Policy</source>
+        <translation>プライバシーポリシー</translation>
+    </message>
+    <message>
+        <source>Terms of Service</source>
+        <translation>利用規約</translation>
+    </message>
+    <message>
+        <source>Contact Us</source>
+        <translation>お問い合わせ</translation>
+    </message>
+    <message>
+        <source>Open Brisko</source>
+        <translation>Briskoを開く</translation>
+    </message>
+    <message>
+        <source>Quit Brisko</source>
+        <translation>Briskoを終了</translation>
+    </message>
+    <message>
+        <source>What's New</source>
+        <translation>新機能</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>このバージョンをスキップ</translation>
+    </message>
+    <message>
+        <source>Remind Me Later</source>
+        <translation>あとで通知</translation>
+    </message>
+    <message>
         <source>Update Available</source>
         <translation>アップデートがあります</translation>
     </message>
