@@ -8,13 +8,12 @@
 #include "CommandLine/Printer.h"
 #include "Platform/FolderPanel.h"
 #include "State/Outcomes.h"
+#include "State/SettingsFile.h"
 #include "Support/LanguageManager.h"
-#include "Support/Text.h"
 #include "Support/UserDefaults.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QFile>
 
 #include <array>
 #include <cstdlib>
@@ -49,12 +48,6 @@ std::optional<FileURL> workingFolder()
     const QByteArray path(folder);
     std::free(folder); // NOLINT: getcwd allocates with malloc
     return FileURL::fromPath(path);
-}
-
-QString settingsFile(const Places &places)
-{
-    // Without a home there is no place for settings: a folder in the file's stead leaves them in memory.
-    return QFile::decodeName(places.settingsFile().value_or(FileURL::root()).path());
 }
 
 QCoro::Task<> drive(SessionPointer session, std::optional<ExitStatus> *status, QEventLoop *loop)
@@ -92,7 +85,7 @@ ExitStatus carryOutInvocation(const Invocation &invocation, PosixTerminal &termi
     terminal.setWakeDescriptor(interruption.wakeDescriptor());
 
     const std::shared_ptr<const Platform> platform = makePlatform();
-    UserDefaults defaults(settingsFile(*platform->places));
+    UserDefaults defaults(SettingsFile::path(*platform->places));
     LanguageManager::activate(defaults);
     NoPanel panel;
     TaskPools pools;
@@ -102,11 +95,8 @@ ExitStatus carryOutInvocation(const Invocation &invocation, PosixTerminal &termi
     environment.panel = &panel;
     environment.pools = &pools;
     AppState state(environment);
-    if (const auto copy = defaults.brokenCopy()) {
-        Printer(&terminal, Stream::error)
-            .text(Text::filled(u"The settings file was damaged. It is kept as %@.", {*copy}))
-            .end();
-    }
+    if (const auto copy = defaults.brokenCopy())
+        Printer(&terminal, Stream::error).text(SettingsFile::damageNotice(*copy)).end();
 
     std::optional<ExitStatus> status;
     QEventLoop loop;

@@ -58,6 +58,11 @@ qint64 AppState::unusedAppsSize() const
     return Totals::unusedAppsSize(m_apps, m_environment.now());
 }
 
+bool AppState::isUnused(const InstalledApp &app) const
+{
+    return Totals::isUnused(app, m_environment.now());
+}
+
 qint64 AppState::duplicateReclaimable() const
 {
     return Totals::reclaimable(m_duplicateGroups);

@@ -142,6 +142,8 @@ public:
     [[nodiscard]] qint64 duplicateReclaimable() const;
     [[nodiscard]] qint64 largeFilesTotalSize() const;
     [[nodiscard]] qint64 junkReclaimable() const;
+    /// Whether an application counts as unused at this moment.
+    [[nodiscard]] bool isUnused(const InstalledApp &app) const;
     /// Whether there is a home folder that scans and removals may work on.
     [[nodiscard]] bool hasUsableHome() const;
 
@@ -231,6 +233,12 @@ public:
     QCoro::Task<UpdateOutcome> checkForUpdates(bool silent);
     void skipUpdate();
     void downloadUpdate();
+    /// Leaves the update for the next check.
+    void postponeUpdate();
+    /// The running version.
+    [[nodiscard]] static QString version();
+    /// What the update announced brings, in the interface language where the feed has it; absent without notes.
+    [[nodiscard]] std::optional<QString> releaseNotes() const;
 
 Q_SIGNALS:
     void selectionChanged();

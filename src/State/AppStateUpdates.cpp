@@ -67,3 +67,18 @@ void AppState::downloadUpdate()
     m_environment.platform->workspace->open(m_updateInfo->downloadURL);
     publish(m_updateInfo, std::nullopt, &AppState::updateInfoChanged);
 }
+
+void AppState::postponeUpdate()
+{
+    publish(m_updateInfo, std::nullopt, &AppState::updateInfoChanged);
+}
+
+QString AppState::version()
+{
+    return UpdateService::currentVersion();
+}
+
+std::optional<QString> AppState::releaseNotes() const
+{
+    return m_updateInfo ? UpdateService::localizedReleaseNotes(*m_updateInfo) : std::nullopt;
+}

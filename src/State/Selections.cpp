@@ -3,6 +3,17 @@
 
 #include <algorithm>
 
+namespace {
+
+bool keepsNoCopy(const DuplicateGroup &group, const QSet<FileURL> &selected)
+{
+    return !group.files.isEmpty() && std::ranges::all_of(group.files, [&selected](const DuplicateFile &file) {
+        return selected.contains(file.url);
+    });
+}
+
+} // namespace
+
 bool Selections::maySelect(const DuplicateGroup &group, const QSet<FileURL> &selected, const FileURL &file)
 {
     return std::ranges::any_of(
@@ -22,12 +33,19 @@ QSet<FileURL> Selections::allButFirst(const QList<DuplicateGroup> &groups)
 const DuplicateGroup *Selections::groupWithoutACopyLeft(const QList<DuplicateGroup> &groups,
                                                         const QSet<FileURL> &selected)
 {
-    const auto found = std::ranges::find_if(groups, [&selected](const DuplicateGroup &group) {
-        return !group.files.isEmpty() && std::ranges::all_of(group.files, [&selected](const DuplicateFile &file) {
-            return selected.contains(file.url);
-        });
-    });
+    const auto found =
+        std::ranges::find_if(groups, [&selected](const DuplicateGroup &group) { return keepsNoCopy(group, selected); });
     return found == groups.cend() ? nullptr : &*found;
+}
+
+QSet<FileURL> Selections::keepingACopy(const QList<DuplicateGroup> &groups, const QSet<FileURL> &selected)
+{
+    QSet<FileURL> kept = selected;
+    for (const DuplicateGroup &group : groups) {
+        if (keepsNoCopy(group, selected))
+            kept.remove(group.files.first().url);
+    }
+    return kept;
 }
 
 QList<DuplicateFile> Selections::selectedFiles(const QList<DuplicateGroup> &groups, const QSet<FileURL> &selected)

@@ -17,6 +17,8 @@ namespace Selections {
 /// The first group of which every copy is selected; null when each keeps one.
 [[nodiscard]] const DuplicateGroup *groupWithoutACopyLeft(const QList<DuplicateGroup> &groups,
                                                           const QSet<FileURL> &selected);
+/// `selected` without the first file of each group of which every copy is selected: what may go while each keeps one.
+[[nodiscard]] QSet<FileURL> keepingACopy(const QList<DuplicateGroup> &groups, const QSet<FileURL> &selected);
 /// The selected files, in group order and file order.
 [[nodiscard]] QList<DuplicateFile> selectedFiles(const QList<DuplicateGroup> &groups, const QSet<FileURL> &selected);
 
