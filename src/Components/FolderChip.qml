@@ -12,6 +12,9 @@ Rectangle {
     property bool removable: true
     signal removeRequested()
 
+    /// Whether the keyboard is at its button.
+    readonly property bool focused: remove.activeFocus
+
     implicitWidth: row.implicitWidth + 16
     implicitHeight: 32
     radius: 9

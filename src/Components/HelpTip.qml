@@ -13,28 +13,35 @@ Item {
     anchors.fill: parent
 
     HoverHandler { id: hover }
-    T.ToolTip {
-        id: tip
-        visible: hover.hovered && root.text !== ""
-        text: root.text
-        delay: Theme.reducedMotion ? 0 : 700
-        y: root.height + 6
-        margins: 8
-        padding: 8
-        implicitWidth: Math.min(label.implicitWidth, 420) + 2 * padding
-        implicitHeight: label.implicitHeight + 2 * padding
-        closePolicy: T.Popup.NoAutoClose
-        contentItem: PlainLabel {
-            id: label
-            text: tip.text
-            font: Typo.small
-            wrapMode: Text.WrapAnywhere
-        }
-        background: Rectangle {
-            radius: 8
-            color: Theme.surfaceAlt
-            border.width: 1
-            border.color: Theme.border
+    // A long list has a tip for every row: only the one in use exists.
+    Loader {
+        anchors.fill: parent
+        active: hover.hovered && root.text !== ""
+        sourceComponent: Item {
+            T.ToolTip {
+                id: tip
+                visible: true
+                text: root.text
+                delay: Theme.reducedMotion ? 0 : 700
+                y: root.height + 6
+                margins: 8
+                padding: 8
+                implicitWidth: Math.min(label.implicitWidth, 420) + 2 * padding
+                implicitHeight: label.implicitHeight + 2 * padding
+                closePolicy: T.Popup.NoAutoClose
+                contentItem: PlainLabel {
+                    id: label
+                    text: tip.text
+                    font: Typo.small
+                    wrapMode: Text.WrapAnywhere
+                }
+                background: Rectangle {
+                    radius: 8
+                    color: Theme.surfaceAlt
+                    border.width: 1
+                    border.color: Theme.border
+                }
+            }
         }
     }
 }

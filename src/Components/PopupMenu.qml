@@ -4,34 +4,32 @@ import QtQuick
 import QtQuick.Templates as T
 import Brisko.Theme
 
-// A small menu of MenuRowButtons.
+// A menu that opens over the window; its rows are MenuRowButtons.
 T.Menu {
     id: menu
 
-    implicitWidth: Math.max(180, contentItem.implicitWidth + 2 * padding)
-    implicitHeight: contentItem.implicitHeight + 2 * padding
+    implicitWidth: 200
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 6
     margins: 8
-    overlap: 1
+    modal: true
+    dim: false
+    focus: true
 
     contentItem: ListView {
-        implicitWidth: contentItem.childrenRect.width
         implicitHeight: contentHeight
         model: menu.contentModel
-        interactive: false
         currentIndex: menu.currentIndex
+        interactive: false
     }
-    background: Item {
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: Theme.backgroundBottom
+        border.width: 1
+        border.color: Theme.border
         CardShadow {
-            radius: 12
-            blur: 14
-        }
-        Rectangle {
-            anchors.fill: parent
-            radius: 12
-            color: Theme.surfaceAlt
-            border.width: 1
-            border.color: Theme.border
+            z: -1
+            radius: Theme.controlRadius
         }
     }
 }

@@ -52,6 +52,8 @@ class Theme : public QObject
     Q_PROPERTY(QColor checkEdge READ checkEdge NOTIFY darkChanged FINAL)
     /// How much of what is behind the window its background hides, 0 to 1.
     Q_PROPERTY(double glassDensity READ glassDensity WRITE setGlassDensity NOTIFY glassDensityChanged FINAL)
+    /// The same for the status area's panel, which lies over whatever is on screen.
+    Q_PROPERTY(double panelDensity MEMBER kPanelDensity CONSTANT FINAL)
 
     // Distances, in points.
     Q_PROPERTY(int panelInset MEMBER kPanelInset CONSTANT FINAL)
@@ -74,6 +76,10 @@ class Theme : public QObject
     Q_PROPERTY(int ring READ ring NOTIFY reducedMotionChanged FINAL)         ///< an arc that moves to its value
 
 public:
+    static constexpr double kPanelDensity = 0.95;
+    static constexpr int kPanelInset = 8;
+    static constexpr int kWindowRadius = 20;
+
     explicit Theme(QObject *parent = nullptr);
 
     [[nodiscard]] bool dark() const { return m_dark; }
@@ -132,8 +138,6 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QColor dynamic(quint32 light, double lightAlpha, quint32 dark, double darkAlpha) const;
 
-    static constexpr int kPanelInset = 8;
-    static constexpr int kWindowRadius = 20;
     static constexpr int kPagePadding = 16;
     static constexpr int kSectionGap = 24;
     static constexpr int kGridGap = 16;
