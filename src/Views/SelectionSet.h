@@ -25,6 +25,12 @@ public:
             m_keys.remove(key);
     }
     void clear() { m_keys.clear(); }
+    /// Drops what `isThere(key)` denies.
+    template <typename IsThere>
+    void keep(IsThere isThere)
+    {
+        m_keys.removeIf([&isThere](const Key &key) { return !isThere(key); });
+    }
 
 private:
     QSet<Key> m_keys;

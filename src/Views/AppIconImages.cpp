@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "Views/AppIconImages.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kMaxBytes = 16 * 1024 * 1024;
+constexpr QSize kUsualSize{88, 88}; // when none is asked for: the row's icon on a dense screen
+
+QByteArray contentOf(const FileURL &file)
+{
+    const QString name = QFile::decodeName(file.path());
+    // Asked first: opening a pipe would wait for its writer.
+    const QFileInfo info(name);
+    if (!info.isFile() || info.size() > kMaxBytes)
+        return {};
+    QFile source(name);
+    return source.open(QIODevice::ReadOnly) ? source.read(kMaxBytes) : QByteArray();
+}
+
+/// Of a file that holds its icon in several sizes, the smallest that is large enough.
+void chooseImage(QImageReader &reader, QSize wanted)
+{
+    int best = -1;
+    QSize bestSize;
+    for (int number = 0; number < reader.imageCount() && reader.jumpToImage(number); ++number) {
+        const QSize size = reader.size();
+        const bool enough = size.width() >= wanted.width();
+        const bool bestEnough = bestSize.width() >= wanted.width();
+        if (best < 0 || (enough && (!bestEnough || size.width() < bestSize.width())) ||
+            (!bestEnough && size.width() > bestSize.width())) {
+            best = number;
+            bestSize = size;
+        }
+    }
+    if (best >= 0)
+        reader.jumpToImage(best);
+}
+
+} // namespace
+
+AppIconImages::AppIconImages()
+    : QQuickImageProvider(QQmlImageProviderBase::Image, QQmlImageProviderBase::ForceAsynchronousImageLoading)
+{
+}
+
+QString AppIconImages::addressOf(const FileURL &file)
+{
+    constexpr auto readable = QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
+    return u"image://appicon/"_s + QString::fromLatin1(file.path().toBase64(readable));
+}
+
+QImage AppIconImages::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
+{
+    const auto path = QByteArray::fromBase64Encoding(id.toLatin1(), QByteArray::Base64UrlEncoding);
+    const std::optional<FileURL> file = path ? FileURL::fromPath(*path) : std::nullopt;
+    if (!file)
+        return {};
+    QByteArray content = contentOf(*file);
+    QBuffer buffer(&content);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    const QSize wanted = requestedSize.isEmpty() ? kUsualSize : requestedSize;
+    if (reader.imageCount() > 1)
+        chooseImage(reader, wanted);
+    const QSize own = reader.size();
+    if (size)
+        *size = own;
+    if (own.isValid())
+        reader.setScaledSize(own.scaled(wanted, Qt::KeepAspectRatio));
+    const QImage image = reader.read();
+    if (image.isNull() || own.isValid())
+        return image;
+    return image.scaled(wanted, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
