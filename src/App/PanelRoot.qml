@@ -11,10 +11,29 @@ Item {
     id: root
 
     required property PanelModel panel
+    /// Whether what lies behind the window shows through.
     property bool translucent: true
 
     width: content.implicitWidth
     height: content.implicitHeight
-    implicitWidth: content.implicitWidth
-    implicitHeight: content.implicitHeight
+
+    VisualEffectBackground {
+        anchors.fill: parent
+        density: root.translucent ? Theme.panelDensity : 1
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.windowRadius
+        border.width: 1
+        border.color: Theme.glassEdge
+        gradient: Gradient {
+            GradientStop { position: 0; color: Theme.windowTintTop }
+            GradientStop { position: 1; color: Theme.windowTintBottom }
+        }
+    }
+    MenuBarPanel {
+        id: content
+        anchors.fill: parent
+        panel: root.panel
+    }
 }

@@ -72,11 +72,9 @@ Item {
             }
         }
 
-        Overlays {
-            anchors.fill: parent
-            radius: root.radius
+        NoticeLayer {
             notices: root.pages.notices
-            behind: content
+            backdropSource: content
         }
 
         Rectangle {
