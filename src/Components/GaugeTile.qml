@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brisko.Painted
 import Brisko.Theme
 
 // A ring gauge with its value inside, and its title and detail below.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brisko.Painted
 import Brisko.Theme
 
 // A symbol by its name, `size` points in the square.
