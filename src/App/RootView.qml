@@ -75,6 +75,7 @@ Item {
         NoticeLayer {
             notices: root.pages.notices
             backdropSource: content
+            corner: root.radius
         }
 
         Rectangle {

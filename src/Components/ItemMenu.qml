@@ -8,6 +8,8 @@ PopupMenu {
     id: menu
 
     property string itemId: ""
+
+
     signal showRequested(string itemId)
     signal copyRequested(string itemId)
 

@@ -12,12 +12,13 @@ FocusScope {
     required property string title
     required property bool shown
     required property Item backdropSource
+    property int corner: Theme.windowRadius // of the window that it covers
     property int cardWidth: 400
     default property alias content: holder.data
     signal cancelRequested()
     signal accepted()
     /// The modal has faded away.
-    signal left()
+    signal gone()
 
     property Item before: null
     property real seconds: 0
@@ -30,7 +31,7 @@ FocusScope {
     focus: true
     opacity: shown ? 1 : 0
     Behavior on opacity { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutQuad } }
-    onOpacityChanged: if (opacity === 0 && !shown) left()
+    onOpacityChanged: if (opacity === 0 && !shown) gone()
 
     Accessible.role: Accessible.Dialog
     Accessible.name: title
@@ -78,6 +79,7 @@ FocusScope {
 
     ModalBackdrop {
         source: root.backdropSource
+        corner: root.corner
         // The second half of a double click on what opened the modal must not close it.
         onTapped: if (root.shown && root.entered) root.cancelRequested()
     }

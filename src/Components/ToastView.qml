@@ -14,7 +14,7 @@ Item {
     property int distance: 20
     property real widest: 520
     /// The toast has faded away.
-    signal left()
+    signal gone()
 
     property real appeared: 0
 
@@ -27,7 +27,7 @@ Item {
 
     Behavior on appeared { NumberAnimation { duration: Theme.hover; easing.type: Easing.OutQuad } }
     Component.onCompleted: appeared = Qt.binding(() => root.shown ? 1 : 0)
-    onAppearedChanged: if (appeared === 0 && !shown) left()
+    onAppearedChanged: if (appeared === 0 && !shown) gone()
 
     CardShadow { radius: root.height / 2 }
     Rectangle {

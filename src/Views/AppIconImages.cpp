@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "Views/AppIconImages.h"
 
+#include "Platform/Descriptor.h"
+#include "Platform/FileReading.h"
+
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 
+#include <fcntl.h>
+
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -18,13 +22,14 @@ constexpr QSize kUsualSize{88, 88}; // when none is asked for: the row's icon on
 
 QByteArray contentOf(const FileURL &file)
 {
-    const QString name = QFile::decodeName(file.path());
-    // Asked first: opening a pipe would wait for its writer.
-    const QFileInfo info(name);
-    if (!info.isFile() || info.size() > kMaxBytes)
+    // By its bytes, for not every name is text; and a pipe must not make us wait for its writer.
+    const Descriptor opened(::open(file.path().constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const auto stamp = opened.isOpen() ? FileReading::stampOf(opened.get()) : std::nullopt;
+    if (!stamp || stamp->size > kMaxBytes)
         return {};
-    QFile source(name);
-    return source.open(QIODevice::ReadOnly) ? source.read(kMaxBytes) : QByteArray();
+    QByteArray content(stamp->size, Qt::Uninitialized);
+    content.truncate(std::max<qint64>(0, FileReading::readAt(opened.get(), content.data(), content.size(), 0)));
+    return content;
 }
 
 /// Of a file that holds its icon in several sizes, the smallest that is large enough.

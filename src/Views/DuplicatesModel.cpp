@@ -19,14 +19,29 @@ void DuplicatesModel::setGroups(const QList<DuplicateGroup> &groups)
     m_groupAt.reserve(groups.size());
     for (qsizetype at = 0; at < groups.size(); ++at)
         m_groupAt.insert(groups.at(at).id, at);
-    updateRows();
+
+    QList<DuplicateRow> rows;
+    for (const DuplicateGroup &group : groups) {
+        rows.append(headOf(group));
+        if (!rows.constLast().collapsed)
+            rows.append(filesOf(group));
+    }
+    setRecords(std::move(rows));
 }
 
 void DuplicatesModel::toggleCollapsed(const QString &groupId)
 {
-    if (!m_collapsed.remove(groupId))
+    const bool collapsed = !m_collapsed.remove(groupId);
+    if (collapsed)
         m_collapsed.insert(groupId);
-    updateRows();
+    const DuplicateGroup &toggled = group(groupId);
+    const DuplicateRow head = headOf(toggled);
+    const int row = rowOf(DuplicatesModelDetail::keyOf(head));
+    replaceRecord(row, head);
+    if (collapsed)
+        removeRecords(row + 1, static_cast<int>(toggled.files.size()));
+    else
+        insertRecords(row + 1, filesOf(toggled));
 }
 
 void DuplicatesModel::touchGroup(const QString &groupId)
@@ -42,28 +57,28 @@ const DuplicateRow *DuplicatesModel::rowOfFile(const FileURL &file) const
     return row < 0 ? nullptr : &records().at(row);
 }
 
-void DuplicatesModel::updateRows()
+DuplicateRow DuplicatesModel::headOf(const DuplicateGroup &group) const
+{
+    const bool collapsed = m_collapsed.contains(group.id);
+    return {.groupId = group.id,
+            .isHead = true,
+            .file = group.files.value(0),
+            .isLast = collapsed || group.files.isEmpty(),
+            .collapsed = collapsed,
+            .copies = group.files.size(),
+            .reclaimable = group.reclaimable()};
+}
+
+QList<DuplicateRow> DuplicatesModel::filesOf(const DuplicateGroup &group)
 {
     QList<DuplicateRow> rows;
-    for (const DuplicateGroup &group : std::as_const(m_groups)) {
-        const bool collapsed = m_collapsed.contains(group.id);
+    for (qsizetype at = 0; at < group.files.size(); ++at) {
         rows.append({.groupId = group.id,
-                     .isHead = true,
-                     .file = group.files.value(0),
-                     .isLast = collapsed || group.files.isEmpty(),
-                     .collapsed = collapsed,
-                     .copies = group.files.size(),
-                     .reclaimable = group.reclaimable()});
-        if (collapsed)
-            continue;
-        for (qsizetype at = 0; at < group.files.size(); ++at) {
-            rows.append({.groupId = group.id,
-                         .file = group.files.at(at),
-                         .isFirst = at == 0,
-                         .isLast = at == group.files.size() - 1});
-        }
+                     .file = group.files.at(at),
+                     .isFirst = at == 0,
+                     .isLast = at == group.files.size() - 1});
     }
-    setRecords(std::move(rows));
+    return rows;
 }
 
 QVariant DuplicatesModel::data(const QModelIndex &index, int role) const

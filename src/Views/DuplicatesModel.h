@@ -51,7 +51,7 @@ public:
     explicit DuplicatesModel(const SelectionSet<FileURL> &selection, QObject *parent = nullptr);
 
     void setGroups(const QList<DuplicateGroup> &groups);
-    /// Hides or shows the files of a group; it stays so over scans.
+    /// Hides or shows the files of a listed group; it stays so over scans.
     void toggleCollapsed(const QString &groupId);
     /// The ticks of a group have changed.
     void touchGroup(const QString &groupId);
@@ -69,7 +69,8 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
 private:
-    void updateRows();
+    [[nodiscard]] DuplicateRow headOf(const DuplicateGroup &group) const;
+    [[nodiscard]] static QList<DuplicateRow> filesOf(const DuplicateGroup &group);
     [[nodiscard]] QVariant headData(const DuplicateRow &row, int role) const;
     [[nodiscard]] QVariant fileData(const DuplicateRow &row, int role) const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brisko.Theme
 import Brisko.Components
 import Brisko.Pages
 
@@ -12,6 +13,8 @@ Item {
     required property NoticesModel notices
     /// What the modals' backdrop shows blurred.
     required property Item backdropSource
+    /// The corner radius of the window that the modals cover.
+    property int corner: Theme.windowRadius
 
     anchors.fill: parent
 
@@ -24,6 +27,7 @@ Item {
         onLoaded: stays = true
         sourceComponent: UpdateModal {
             backdropSource: root.backdropSource
+            corner: root.corner
             shown: root.notices.updateShown
             version: root.notices.updateVersion
             date: root.notices.updateDate
@@ -32,7 +36,7 @@ Item {
             onDownloadRequested: root.notices.downloadUpdate()
             onSkipRequested: root.notices.skipUpdate()
             onLaterRequested: root.notices.postponeUpdate()
-            onLeft: update.stays = false
+            onGone: update.stays = false
         }
     }
     Loader {
@@ -44,6 +48,7 @@ Item {
         onLoaded: stays = true
         sourceComponent: ConfirmModal {
             backdropSource: root.backdropSource
+            corner: root.corner
             shown: root.notices.confirmShown
             busy: root.notices.confirmBusy
             icon: root.notices.confirmIcon
@@ -55,7 +60,7 @@ Item {
             confirmTitle: root.notices.confirmButton
             onConfirmed: root.notices.acceptConfirm()
             onCancelled: root.notices.cancelConfirm()
-            onLeft: {
+            onGone: {
                 confirm.stays = false
                 root.notices.confirmHasLeft()
             }
@@ -69,11 +74,12 @@ Item {
         onLoaded: stays = true
         sourceComponent: AlertModal {
             backdropSource: root.backdropSource
+            corner: root.corner
             shown: root.notices.alertShown
             title: root.notices.alertTitle
             message: root.notices.alertMessage
             onDismissed: root.notices.dismissAlert()
-            onLeft: alert.stays = false
+            onGone: alert.stays = false
         }
     }
     Loader {
@@ -93,7 +99,7 @@ Item {
                 symbol: root.notices.toastSymbol
                 tint: root.notices.toastTint
                 message: root.notices.toastMessage
-                onLeft: toast.stays = false
+                onGone: toast.stays = false
             }
         }
     }

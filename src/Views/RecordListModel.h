@@ -6,6 +6,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -26,7 +27,13 @@ public:
     }
     [[nodiscard]] const QList<Record> &records() const { return m_records; }
     /// The row of a key; absent: -1.
-    [[nodiscard]] int rowOf(const Key &key) const { return m_rows.value(key, -1); }
+    [[nodiscard]] int rowOf(const Key &key) const
+    {
+        // Found out again when it is first asked for after a change: a long list would pay for it at every change.
+        if (!m_rows)
+            m_rows = rowsOf(m_records);
+        return m_rows->value(key, -1);
+    }
 
     void setRecords(QList<Record> records)
     {
@@ -65,6 +72,32 @@ protected:
     /// The record of a valid index of this model.
     [[nodiscard]] const Record &recordAt(const QModelIndex &index) const { return m_records.at(index.row()); }
 
+    // What `setRecords` would do, for who knows the difference already.
+    void removeRecords(int first, int count)
+    {
+        if (count == 0)
+            return;
+        beginRemoveRows({}, first, first + count - 1);
+        m_records.remove(first, count);
+        m_rows.reset();
+        endRemoveRows();
+    }
+    void insertRecords(int first, const QList<Record> &records)
+    {
+        if (records.isEmpty())
+            return;
+        beginInsertRows({}, first, first + static_cast<int>(records.size()) - 1);
+        m_records = m_records.first(first) + records + m_records.sliced(first);
+        m_rows.reset();
+        endInsertRows();
+    }
+    /// Puts a record of the same key in the place of another.
+    void replaceRecord(int row, Record record)
+    {
+        m_records[row] = std::move(record);
+        Q_EMIT dataChanged(index(row), index(row));
+    }
+
 private:
     static QHash<Key, int> rowsOf(const QList<Record> &records)
     {
@@ -92,6 +125,7 @@ private:
                 --first;
             beginRemoveRows({}, static_cast<int>(first), static_cast<int>(last));
             m_records.remove(first, last - first + 1);
+            m_rows.reset();
             endRemoveRows();
             last = first;
         }
@@ -118,6 +152,7 @@ private:
             return rows.value(keyOf(a)) < rows.value(keyOf(b));
         });
         const QHash<Key, int> now = rowsOf(m_records);
+        m_rows.reset();
         QModelIndexList after;
         for (const Key &key : keys)
             after.append(index(now.value(key)));
@@ -136,6 +171,7 @@ private:
             beginInsertRows({}, static_cast<int>(first), static_cast<int>(last));
             // One piece at a time: taking the list apart for each row would cost the square of its length.
             m_records = m_records.first(first) + records.sliced(first, last - first + 1) + m_records.sliced(first);
+            m_rows.reset();
             endInsertRows();
             first = last;
         }
@@ -157,5 +193,5 @@ private:
     }
 
     QList<Record> m_records;
-    QHash<Key, int> m_rows;
+    mutable std::optional<QHash<Key, int>> m_rows;
 };

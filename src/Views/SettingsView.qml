@@ -79,6 +79,7 @@ Item {
                     width: parent.width
                     height: add.implicitHeight
                     SingleLineScroll {
+                        id: line
                         anchors { left: parent.left; right: add.left; rightMargin: Theme.cardGap }
                         anchors.verticalCenter: parent.verticalCenter
                         Repeater {
@@ -86,6 +87,7 @@ Item {
                             FolderChip {
                                 required property string itemId
                                 onRemoveRequested: root.page.removeFolder(itemId)
+                                onFocusedChanged: if (focused) line.show(this)
                             }
                         }
                     }

@@ -456,10 +456,10 @@ void tst_JunkPage::notifiesOnlyOfDifferences()
 {
     Fixture f;
     f.cache("a");
-    const JunkPage &page = f.open();
+    JunkPage &page = f.open();
     f.scan();
     QSignalSpy changed(&page, &JunkPage::changed);
-    f.toggle(u"nobody"_s);
+    page.toggle(u"nobody"_s);
     Q_EMIT f.state->scanDetailChanged();
     Q_EMIT f.state->removingChanged();
     QCOMPARE(changed.count(), 0);

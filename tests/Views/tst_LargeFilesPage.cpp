@@ -179,7 +179,7 @@ void tst_LargeFilesPage::leavesAnUnknownDateEmpty()
 {
     const SelectionSet<FileURL> selection;
     LargeFilesModel model(selection);
-    model.setRecords({LargeFile{.url = FileURL::fromCleanPath("/a/b"), .size = 5}});
+    model.setRecords({LargeFile{.url = FileURL::fromCleanPath("/a/b"), .size = 5, .modified = {}}});
     QCOMPARE(Rows(&model).text(0, "dateText"), QString());
     QCOMPARE(Rows(&model).text(0, "folder"), u"/a"_s);
 }

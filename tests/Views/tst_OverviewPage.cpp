@@ -109,8 +109,8 @@ void tst_OverviewPage::capsTheTemperatureRing()
     PageFixture f;
     AppState &state = f.make();
     const Figures figures(state);
-    read(f, state, 119);
-    QCOMPARE(figures.temperature(), u"119°"_s);
+    read(f, state, 107);
+    QCOMPARE(figures.temperature(), u"107°"_s);
     QCOMPARE(figures.temperatureProgress(), 1.0);
 }
 
@@ -166,15 +166,15 @@ void tst_OverviewPage::addsUpWhatCanBeFreed()
     f.oldDownload("old.bin", 7'000);
     const FileURL unused = f.app("Idle");
     ScratchTree::setModified(unused, f.now.addDays(-40));
-    f.tree.file("home/Pictures/a.bin", QByteArray(3'000, 'd'));
-    f.tree.file("home/Pictures/b.bin", QByteArray(3'000, 'd'));
+    f.tree.file("home/Pictures/a.bin", QByteArray(8'000, 'd'));
+    f.tree.file("home/Pictures/b.bin", QByteArray(8'000, 'd'));
     AppState &state = f.make();
     const Figures figures(state);
     StateFixture::wait(state.scanJunkAsync());
     StateFixture::wait(state.scanDuplicates({f.home.child("Pictures")}));
     StateFixture::wait(state.scanApps());
     QTRY_VERIFY(!state.appDetailsLoading());
-    QCOMPARE(figures.duplicates(), u"3 KB"_s);
+    QCOMPARE(figures.duplicates(), u"8 KB"_s);
     QVERIFY(state.junkReclaimable() >= 7'000);
     QVERIFY(state.unusedAppsSize() >= 5'000);
     const qint64 sum = state.unusedAppsSize() + state.duplicateReclaimable() + state.junkReclaimable();

@@ -268,7 +268,7 @@ void tst_UninstallerPage::addsUpTheSelection()
     PageFixture f;
     const FileURL editor = f.app("Editor", 50'000);
     const FileURL player = f.app("Player", 90'000);
-    f.tree.file("home/Library/Caches/Player/data", QByteArray(20'000, 'c'));
+    f.tree.file("home/Library/Application Support/Player/data", QByteArray(20'000, 'c'));
     AppState &state = f.make();
     UninstallerPage page(state, f.actions);
     scan(state);
@@ -429,7 +429,7 @@ void tst_UninstallerPage::saysOfTheQuestionWhatWillGo()
 {
     PageFixture f;
     const FileURL editor = f.app("Editor");
-    f.tree.file("home/Library/Caches/Editor/data", QByteArray(20'000, 'c'));
+    f.tree.file("home/Library/Application Support/Editor/data", QByteArray(20'000, 'c'));
     AppState &state = f.make();
     UninstallerPage page(state, f.actions);
     StateFixture::wait(state.scanApps());
@@ -486,14 +486,11 @@ void tst_UninstallerPage::disablesRemovingWhileARemovalRuns()
 void tst_UninstallerPage::showsTheAccessBanner()
 {
     PageFixture f;
-    f.tree.folder("home/Library/Safari");
     AppState &state = f.make();
     UninstallerPage page(state, f.actions);
     QVERIFY(!page.needsFullDiskAccess());
-    f.tree.file("home/Library/Application Support/com.apple.TCC/TCC.db");
-    const FileURL database = f.tree.at("home/Library/Application Support/com.apple.TCC/TCC.db");
-    QVERIFY(::chmod(database.path().constData(), 0) == 0);
-    const OrdinaryUser user;
+    // A database that is none: a folder cannot be read as one.
+    f.tree.folder("home/Library/Application Support/com.apple.TCC/TCC.db");
     scan(state);
     QTRY_VERIFY(page.needsFullDiskAccess());
     page.openAccessSettings();

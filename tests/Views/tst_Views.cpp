@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QQmlExtensionPlugin>
-#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -20,13 +19,6 @@ using namespace Qt::StringLiterals;
 class tst_Views : public QObject
 {
     Q_OBJECT
-
-public:
-    static void initMain()
-    {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    }
 
 private Q_SLOTS:
     void overviewShowsItsFigures();
@@ -67,8 +59,8 @@ public:
     void open()
     {
         f.show(u"NoticeLayer"_s, {{u"notices"_s, QVariant::fromValue(f.models.notices())},
-                                  {u"backdropSource"_s, QVariant::fromValue(f.view.contentItem())}});
-        behind = new QQuickItem(f.view.contentItem());
+                                  {u"backdropSource"_s, QVariant::fromValue(&source)}});
+        behind = new QQuickItem(f.window->view().contentItem());
         behind->setSize({50, 50});
         behind->setActiveFocusOnTab(true);
         behind->forceActiveFocus();
@@ -92,6 +84,7 @@ public:
                                .onConfirm = [this] { ++accepted; }});
     }
 
+    QQuickItem source;
     ViewFixture f;
     QQuickItem *behind = nullptr;
     int accepted = 0;
@@ -185,7 +178,7 @@ void tst_Views::uninstallerTicksAndOpensRows()
 {
     ViewFixture f;
     ScratchTree::setModified(f.app("Editor"), f.now.addDays(-40));
-    f.tree.file("home/Library/Caches/Editor/data", QByteArray(20'000, 'c'));
+    f.tree.file("home/Library/Application Support/Editor/data", QByteArray(20'000, 'c'));
     f.app("Player");
     f.app("Viewer");
     f.showPage(u"UninstallerView"_s, f.models.uninstaller());
@@ -200,7 +193,7 @@ void tst_Views::uninstallerTicksAndOpensRows()
     QTRY_COMPARE(f.all(u"relatedFile"_s).size(), 1);
     QTRY_VERIFY(f.all(u"app"_s).value(0)->height() > closed);
     f.picture(u"uninstaller"_s);
-    f.theme()->setDark(true);
+    f.window->theme->setDark(true);
     f.picture(u"uninstaller-dark"_s);
     f.click(f.all(u"appChevron"_s).value(0));
     QTRY_COMPARE(f.all(u"app"_s).value(0)->height(), closed);
@@ -315,8 +308,9 @@ void tst_Views::settingsSwitchTheLanguage()
 {
     ViewFixture f;
     f.state->setLanguage(AppLanguage::en);
-    QObject::connect(f.state.get(), &AppState::languageChanged, &f.view, [&f] { f.texts()->followLanguage(); });
     f.showPage(u"SettingsView"_s, f.models.settings());
+    auto *texts = f.window->view().engine()->singletonInstance<Texts *>(qmlTypeId("Brisko.Theme", 1, 0, "Texts"));
+    QObject::connect(f.state.get(), &AppState::languageChanged, texts, &Texts::followLanguage);
     QCOMPARE(f.text(u"pageTitle"_s), u"Settings"_s);
     f.picture(u"settings"_s);
     f.click(f.item(u"language-de"_s));
@@ -324,7 +318,7 @@ void tst_Views::settingsSwitchTheLanguage()
     QCOMPARE(f.text(u"pageTitle"_s), u"Einstellungen"_s);
     QVERIFY(f.item(u"language-de"_s)->property("checked").toBool());
     QVERIFY(!f.item(u"language-en"_s)->property("checked").toBool());
-    f.theme()->setDark(true);
+    f.window->theme->setDark(true);
     f.picture(u"settings-dark"_s);
     f.click(f.item(u"language-en"_s));
     QCOMPARE(f.text(u"pageTitle"_s), u"Settings"_s);
@@ -374,8 +368,8 @@ void tst_Views::panelLeadsToThePages()
 {
     ViewFixture f;
     QSignalSpy posted(&f.notifications, &NotificationCenter::posted);
-    f.view.resize(300, 480);
     f.show(u"MenuBarPanel"_s, {{u"panel"_s, QVariant::fromValue(f.models.panel())}});
+    f.window->view().resize(300, 480);
     f.picture(u"panel"_s);
     QCOMPARE(f.item(u"panelTemperature"_s)->property("value").toString(), u"--"_s);
     f.click(f.item(u"panelJunk"_s));
@@ -433,9 +427,9 @@ void tst_Views::confirmationClosesOnItsBackdrop()
     Overlay o;
     o.open();
     o.ask();
-    QTest::mouseClick(&o.f.view, Qt::LeftButton, {}, QPoint(378, 326)); // the card itself
+    QTest::mouseClick(&o.f.window->view(), Qt::LeftButton, {}, QPoint(378, 326)); // the card itself
     QVERIFY(o.f.state->confirm());
-    QTest::mouseClick(&o.f.view, Qt::LeftButton, {}, QPoint(20, 20));
+    QTest::mouseClick(&o.f.window->view(), Qt::LeftButton, {}, QPoint(20, 20));
     QVERIFY(!o.f.state->confirm());
     QCOMPARE(o.accepted, 0);
 }
@@ -456,7 +450,7 @@ void tst_Views::confirmationTakesNoHeldKeyForAnAnswer()
     o.open();
     o.ask();
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
-    QCoreApplication::sendEvent(&o.f.view, &repeated);
+    QCoreApplication::sendEvent(&o.f.window->view(), &repeated);
     QVERIFY(o.f.state->confirm());
     QCOMPARE(o.accepted, 0);
 }

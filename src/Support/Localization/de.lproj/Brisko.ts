@@ -97,6 +97,158 @@
         <translation>%lld Kategorie bereinigen?</translation>
     </message>
     <message>
+        <source>%@ · %@</source>
+        <translation>%@ · %@</translation>
+    </message>
+    <message>
+        <source>%lld MB</source>
+        <translation>%lld MB</translation>
+    </message>
+    <message>
+        <source>1 GB</source>
+        <translation>1 GB</translation>
+    </message>
+    <message>
+        <source>≥ %@</source>
+        <translation>≥ %@</translation>
+    </message>
+    <message>
+        <source>%lld file selected · %@</source>
+        <translation>%lld Datei ausgewählt · %@</translation>
+    </message>
+    <message>
+        <source>%lld files selected · %@</source>
+        <translation>%lld Dateien ausgewählt · %@</translation>
+    </message>
+    <message>
+        <source>%lld selected · %@</source>
+        <translation>%lld ausgewählt · %@</translation>
+    </message>
+    <message>
+        <source>Add folders to scan</source>
+        <translation>Ordner zum Durchsuchen hinzufügen</translation>
+    </message>
+    <message>
+        <source>At least one copy is kept</source>
+        <translation>Mindestens eine Kopie bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Choose a folder to scan for large files.</source>
+        <translation>Wähle einen Ordner, der nach großen Dateien durchsucht werden soll.</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Folders:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
+        <translation>Erlaube den Festplattenvollzugriff und starte Brisko neu, um den Papierkorb, die Caches von Chat-Apps und andere geschützte Daten zu durchsuchen.</translation>
+    </message>
+    <message>
+        <source>Hashing file contents, this may take a moment</source>
+        <translation>Dateiinhalte werden verglichen, das kann einen Moment dauern</translation>
+    </message>
+    <message>
+        <source>Junk categories</source>
+        <translation>Kategorien von Datenmüll</translation>
+    </message>
+    <message>
+        <source>Keep First</source>
+        <translation>Erste behalten</translation>
+    </message>
+    <message>
+        <source>Large files</source>
+        <translation>Große Dateien</translation>
+    </message>
+    <message>
+        <source>No duplicate files yet — press Scan to search</source>
+        <translation>Noch keine doppelten Dateien – klicke auf „Scannen“, um zu suchen</translation>
+    </message>
+    <message>
+        <source>No junk found yet</source>
+        <translation>Noch kein Datenmüll gefunden</translation>
+    </message>
+    <message>
+        <source>No junk found — your Mac is clean</source>
+        <translation>Kein Datenmüll gefunden – dein Mac ist sauber</translation>
+    </message>
+    <message>
+        <source>No large files yet</source>
+        <translation>Noch keine großen Dateien</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Press Scan to find junk files</source>
+        <translation>Klicke auf „Scannen“, um Datenmüll zu finden</translation>
+    </message>
+    <message>
+        <source>Press Scan to search for caches, logs, and temporary files</source>
+        <translation>Klicke auf „Scannen“, um nach Caches, Protokollen und temporären Dateien zu suchen</translation>
+    </message>
+    <message>
+        <source>Press Scan to search your folders for identical copies</source>
+        <translation>Klicke auf „Scannen“, um deine Ordner nach identischen Kopien zu durchsuchen</translation>
+    </message>
+    <message>
+        <source>Press Scan to search your folders for large files</source>
+        <translation>Klicke auf „Scannen“, um deine Ordner nach großen Dateien zu durchsuchen</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>Erneut scannen</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Scannen</translation>
+    </message>
+    <message>
+        <source>Scanning folders…</source>
+        <translation>Ordner werden durchsucht …</translation>
+    </message>
+    <message>
+        <source>Scanning…</source>
+        <translation>Wird gescannt …</translation>
+    </message>
+    <message>
+        <source>Select categories to clean</source>
+        <translation>Wähle Kategorien zum Bereinigen aus</translation>
+    </message>
+    <message>
+        <source>Select copies to remove — at least one copy of each file is kept</source>
+        <translation>Wähle Kopien zum Entfernen aus – mindestens eine Kopie jeder Datei bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Select files to remove</source>
+        <translation>Wähle Dateien zum Entfernen aus</translation>
+    </message>
+    <message>
+        <source>Set threshold and press Scan</source>
+        <translation>Lege die Mindestgröße fest und klicke auf „Scannen“</translation>
+    </message>
+    <message>
+        <source>Show in File Manager</source>
+        <translation>Im Dateimanager anzeigen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>… and %lld more</source>
+        <translation>… und %lld weitere</translation>
+    </message>
+    <message>
         <source>This will move %lld files to Trash.</source>
         <translation>%lld Dateien werden in den Papierkorb verschoben.</translation>
     </message>

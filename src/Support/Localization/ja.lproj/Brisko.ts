@@ -97,6 +97,158 @@
         <translation>%lld個のカテゴリをクリーンアップしますか？</translation>
     </message>
     <message>
+        <source>%@ · %@</source>
+        <translation>%@ · %@</translation>
+    </message>
+    <message>
+        <source>%lld MB</source>
+        <translation>%lld MB</translation>
+    </message>
+    <message>
+        <source>1 GB</source>
+        <translation>1 GB</translation>
+    </message>
+    <message>
+        <source>≥ %@</source>
+        <translation>≥ %@</translation>
+    </message>
+    <message>
+        <source>%lld file selected · %@</source>
+        <translation>%lld個のファイルを選択中 · %@</translation>
+    </message>
+    <message>
+        <source>%lld files selected · %@</source>
+        <translation>%lld個のファイルを選択中 · %@</translation>
+    </message>
+    <message>
+        <source>%lld selected · %@</source>
+        <translation>%lld個を選択中 · %@</translation>
+    </message>
+    <message>
+        <source>Add folders to scan</source>
+        <translation>検索するフォルダを追加してください</translation>
+    </message>
+    <message>
+        <source>At least one copy is kept</source>
+        <translation>少なくとも1つのコピーは残ります</translation>
+    </message>
+    <message>
+        <source>Choose a folder to scan for large files.</source>
+        <translation>大きなファイルを検索するフォルダを選択してください。</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>パスをコピー</translation>
+    </message>
+    <message>
+        <source>Folders:</source>
+        <translation>フォルダ:</translation>
+    </message>
+    <message>
+        <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
+        <translation>フルディスクアクセスを許可してからBriskoを再起動すると、ゴミ箱、チャットアプリのキャッシュ、その他の保護されたデータを検索できます。</translation>
+    </message>
+    <message>
+        <source>Hashing file contents, this may take a moment</source>
+        <translation>ファイルの内容を比較しています。しばらくお待ちください</translation>
+    </message>
+    <message>
+        <source>Junk categories</source>
+        <translation>不要ファイルのカテゴリ</translation>
+    </message>
+    <message>
+        <source>Keep First</source>
+        <translation>最初を残す</translation>
+    </message>
+    <message>
+        <source>Large files</source>
+        <translation>大きなファイル</translation>
+    </message>
+    <message>
+        <source>No duplicate files yet — press Scan to search</source>
+        <translation>重複ファイルはまだありません — 「スキャン」を押して検索してください</translation>
+    </message>
+    <message>
+        <source>No junk found yet</source>
+        <translation>不要ファイルはまだ見つかっていません</translation>
+    </message>
+    <message>
+        <source>No junk found — your Mac is clean</source>
+        <translation>不要ファイルはありません — Macはきれいです</translation>
+    </message>
+    <message>
+        <source>No large files yet</source>
+        <translation>大きなファイルはまだありません</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>オリジナル</translation>
+    </message>
+    <message>
+        <source>Press Scan to find junk files</source>
+        <translation>「スキャン」を押して不要ファイルを探してください</translation>
+    </message>
+    <message>
+        <source>Press Scan to search for caches, logs, and temporary files</source>
+        <translation>「スキャン」を押すと、キャッシュ、ログ、一時ファイルを検索します</translation>
+    </message>
+    <message>
+        <source>Press Scan to search your folders for identical copies</source>
+        <translation>「スキャン」を押すと、フォルダ内の同一コピーを検索します</translation>
+    </message>
+    <message>
+        <source>Press Scan to search your folders for large files</source>
+        <translation>「スキャン」を押すと、フォルダ内の大きなファイルを検索します</translation>
+    </message>
+    <message>
+        <source>Rescan</source>
+        <translation>再スキャン</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>スキャン</translation>
+    </message>
+    <message>
+        <source>Scanning folders…</source>
+        <translation>フォルダを検索中…</translation>
+    </message>
+    <message>
+        <source>Scanning…</source>
+        <translation>スキャン中…</translation>
+    </message>
+    <message>
+        <source>Select categories to clean</source>
+        <translation>クリーンアップするカテゴリを選択</translation>
+    </message>
+    <message>
+        <source>Select copies to remove — at least one copy of each file is kept</source>
+        <translation>削除するコピーを選択 — 各ファイルの少なくとも1つのコピーは残ります</translation>
+    </message>
+    <message>
+        <source>Select files to remove</source>
+        <translation>削除するファイルを選択</translation>
+    </message>
+    <message>
+        <source>Set threshold and press Scan</source>
+        <translation>しきい値を設定して「スキャン」を押してください</translation>
+    </message>
+    <message>
+        <source>Show in File Manager</source>
+        <translation>ファイルマネージャで表示</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>… and %lld more</source>
+        <translation>…ほか%lld個</translation>
+    </message>
+    <message>
         <source>This will move %lld files to Trash.</source>
         <translation>%lld個のファイルをゴミ箱に移動します。</translation>
     </message>
