@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
+// Not bound to its file: a Loader of Qt 6.4 cannot make components that are.
 import QtQuick
 import Brisko.Painted
 import Brisko.Theme
