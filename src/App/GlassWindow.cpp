@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The title bar as it would be laid out in the window's corner, before its buttons move into the panel's.
-constexpr double kTitleBarHeight = 28;
-constexpr double kFirstButton = 8;
+constexpr double kTitleBarHeight = 40;
+constexpr double kFirstButton = 13;
 constexpr double kButtonStep = 20;
 
 QRectF defaultFrame(TitleBarButton button)

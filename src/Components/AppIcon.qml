@@ -21,7 +21,8 @@ Item {
         sourceSize: Qt.size(root.size, root.size)
         fillMode: Image.PreserveAspectFit
         asynchronous: true
-        visible: status === Image.Ready
+        // One pixel stands for a file that holds no icon.
+        visible: status === Image.Ready && implicitWidth > 1
         Accessible.ignored: true
     }
     SymbolIcon {

@@ -9,8 +9,8 @@ Item {
 
     property color color: Theme.cardShadow
     property int radius: Theme.cardRadius
-    property int blur: 18
-    property int drop: 6
+    property int blur: 22
+    property int drop: 5
 
     anchors.fill: parent
 

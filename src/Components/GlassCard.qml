@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brisko.Theme
 
-// A translucent card with an edge of light and a soft shadow; pads what it holds.
+// A translucent card with an edge of light and a soft shadow; pads what it holds. Its size is its user's affair.
 Item {
     id: root
 
@@ -12,9 +12,6 @@ Item {
     property int padding: Theme.pagePadding
     property color fill: Theme.cardFill
     property bool lifted: false
-
-    implicitWidth: holder.childrenRect.width + 2 * padding
-    implicitHeight: holder.childrenRect.height + 2 * padding
 
     CardShadow {
         radius: root.radius

@@ -44,7 +44,8 @@ QImage ShadowImages::requestImage(const QString &id, QSize *size, const QSize & 
             const double x = column + 0.5 - side / 2.0;
             const double y = row + 0.5 - side / 2.0;
             const double away = distance(x, y - drop, half, radius);
-            const double fade = std::clamp(1 - (away + blur / 2.0) / (blur * 1.5), 0.0, 1.0);
+            // Half as dark at the edge itself, as a blurred shape is.
+            const double fade = std::clamp((blur - away) / (2.0 * blur), 0.0, 1.0);
             const double outside = std::clamp(distance(x, y, half, radius) + 0.5, 0.0, 1.0);
             const double alpha = opacity * fade * fade * (3 - 2 * fade) * outside;
             line[column] =

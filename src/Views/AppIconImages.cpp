@@ -51,6 +51,14 @@ void chooseImage(QImageReader &reader, QSize wanted)
         reader.jumpToImage(best);
 }
 
+/// What stands for a file that holds no icon: one clear pixel, for a null image is an error that QML prints.
+QImage nothing()
+{
+    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
+    pixel.fill(Qt::transparent);
+    return pixel;
+}
+
 } // namespace
 
 AppIconImages::AppIconImages()
@@ -69,7 +77,7 @@ QImage AppIconImages::requestImage(const QString &id, QSize *size, const QSize &
     const auto path = QByteArray::fromBase64Encoding(id.toLatin1(), QByteArray::Base64UrlEncoding);
     const std::optional<FileURL> file = path ? FileURL::fromPath(*path) : std::nullopt;
     if (!file)
-        return {};
+        return nothing();
     QByteArray content = contentOf(*file);
     QBuffer buffer(&content);
     QImageReader reader(&buffer);
@@ -83,7 +91,9 @@ QImage AppIconImages::requestImage(const QString &id, QSize *size, const QSize &
     if (own.isValid())
         reader.setScaledSize(own.scaled(wanted, Qt::KeepAspectRatio));
     const QImage image = reader.read();
-    if (image.isNull() || own.isValid())
+    if (image.isNull())
+        return nothing();
+    if (own.isValid())
         return image;
     return image.scaled(wanted, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }

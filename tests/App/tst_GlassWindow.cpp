@@ -107,13 +107,13 @@ private Q_SLOTS:
 
     void theTitleBarsButtonsLieInThePanelsCorner()
     {
-        QCOMPARE(m_window->closePosition(), QPointF(16, 20));
-        QCOMPARE(m_window->minimisePosition(), QPointF(36, 20));
-        QCOMPARE(m_window->zoomPosition(), QPointF(56, 20));
+        QCOMPARE(m_window->closePosition(), QPointF(21, 26));
+        QCOMPARE(m_window->minimisePosition(), QPointF(41, 26));
+        QCOMPARE(m_window->zoomPosition(), QPointF(61, 26));
         m_window->applyCompositing();
         m_window->makeKeyAndOrderFront();
         m_clock.advance(1s);
-        QCOMPARE(m_window->closePosition(), QPointF(16, 20));
+        QCOMPARE(m_window->closePosition(), QPointF(21, 26));
     }
 
     void theTitleBarsButtonsFollowThePanelsEdge()
@@ -121,11 +121,11 @@ private Q_SLOTS:
         QSignalSpy moved(m_window.get(), &GlassWindow::titleButtonsMoved);
         m_composited = false;
         m_window->applyCompositing();
-        QCOMPARE(m_window->closePosition(), QPointF(8, 12));
+        QCOMPARE(m_window->closePosition(), QPointF(13, 18));
         QCOMPARE(moved.count(), 3);
         m_composited = true;
         m_window->applyCompositing();
-        QCOMPARE(m_window->closePosition(), QPointF(16, 20));
+        QCOMPARE(m_window->closePosition(), QPointF(21, 26));
     }
 
     void closingIsDecidedByWhoOwnsTheWindow()

@@ -29,6 +29,8 @@ private Q_SLOTS:
 
 namespace {
 
+constexpr QSize kNothing{1, 1}; // of what stands for no icon
+
 QByteArray png(QSize size)
 {
     QImage image(size, QImage::Format_ARGB32);
@@ -118,14 +120,14 @@ void tst_AppIconImages::takesTheSizeThatFits()
 void tst_AppIconImages::givesNoImageForWhatIsNone()
 {
     const ScratchTree tree;
-    QVERIFY(load(tree.file("icon.png", "no image")).isNull());
-    QVERIFY(load(tree.file("empty.png", {})).isNull());
-    QVERIFY(load(tree.at("absent.png")).isNull());
-    QVERIFY(load(tree.folder("folder.png")).isNull());
-    QVERIFY(load(tree.sparseFile("large.png", 17 * 1024 * 1024)).isNull());
+    QCOMPARE(load(tree.file("icon.png", "no image")).size(), kNothing);
+    QCOMPARE(load(tree.file("empty.png", {})).size(), kNothing);
+    QCOMPARE(load(tree.at("absent.png")).size(), kNothing);
+    QCOMPARE(load(tree.folder("folder.png")).size(), kNothing);
+    QCOMPARE(load(tree.sparseFile("large.png", 17 * 1024 * 1024)).size(), kNothing);
     QSize size;
-    QVERIFY(AppIconImages().requestImage(u"!!!"_s, &size, {44, 44}).isNull());
-    QVERIFY(AppIconImages().requestImage(QString(), &size, {44, 44}).isNull());
+    QCOMPARE(AppIconImages().requestImage(u"!!!"_s, &size, {44, 44}).size(), kNothing);
+    QCOMPARE(AppIconImages().requestImage(QString(), &size, {44, 44}).size(), kNothing);
 }
 
 void tst_AppIconImages::doesNotWaitForAPipe()
