@@ -15,8 +15,6 @@ Item {
 
     readonly property int reach: 32 // how far the shadow spreads
 
-    anchors.fill: parent
-
     Item {
         anchors.fill: parent
         anchors { leftMargin: -root.reach; rightMargin: -root.reach }
