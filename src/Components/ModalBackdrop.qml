@@ -11,6 +11,8 @@ Item {
 
     required property Item source
     property int corner: Theme.windowRadius
+    /// Whether the blurred picture stands in for what is behind, rather than fading over it.
+    property bool covering: true
     signal tapped()
 
     anchors.fill: parent
@@ -28,6 +30,7 @@ Item {
                 visible: false
                 sourceItem: root.source
                 live: false
+                hideSource: root.covering
                 textureSize: Qt.size(Math.max(1, Math.ceil(root.width / 4)), Math.max(1, Math.ceil(root.height / 4)))
             }
             FastBlur {

@@ -80,6 +80,7 @@ FocusScope {
     ModalBackdrop {
         source: root.backdropSource
         corner: root.corner
+        covering: root.shown
         // The second half of a double click on what opened the modal must not close it.
         onTapped: if (root.shown && root.entered) root.cancelRequested()
     }
