@@ -36,13 +36,18 @@ function(brisko_qml_module name)
     # The generated registration includes its headers by their bare names.
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
+# Only what people run has its QML compiled ahead: while developing that costs more than it gives.
 function(brisko_qml_files name)
     cmake_parse_arguments(ARG "" "URI" "FILES;LINKS" ${ARGN})
     string(REPLACE "." "/" folder ${ARG_URI})
     qt_add_library(${name} STATIC)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    set(ahead)
+    if(CMAKE_BUILD_TYPE STREQUAL "Debug")
+        set(ahead NO_CACHEGEN)
+    endif()
     qt_add_qml_module(${name} URI ${ARG_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
-        OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${folder} QML_FILES ${ARG_FILES})
+        OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${folder} QML_FILES ${ARG_FILES} ${ahead})
     target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_LINKS})
     # No word of ours is in what is generated.
     target_compile_options(${name} PRIVATE -w)
