@@ -8,8 +8,6 @@ PopupMenu {
     id: menu
 
     property string itemId: ""
-
-
     signal showRequested(string itemId)
     signal copyRequested(string itemId)
 

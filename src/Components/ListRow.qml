@@ -27,6 +27,9 @@ T.ItemDelegate {
     hoverEnabled: true
     // The list gives its present row the focus; a click leaves it where it is.
     focusPolicy: Qt.NoFocus
+    // A row that waits to be used again is not drawn, yet assistive tools would still be told of it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
 
     Accessible.readOnly: !enabled
     Accessible.onPressAction: if (enabled) clicked()

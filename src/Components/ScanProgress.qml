@@ -13,6 +13,7 @@ Item {
     signal stopRequested()
 
     implicitHeight: Theme.sectionGap
+    z: 1 // over the list, which reaches up to here with its shadows and would take the button's clicks
 
     Loader {
         anchors.fill: parent
