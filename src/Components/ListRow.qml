@@ -45,10 +45,15 @@ T.ItemDelegate {
         }
     }
 
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        enabled: control.hasMenu
-        onTapped: point => control.menuRequested(control.itemId, control, point.position.x, point.position.y)
+    // Not the row's own handler: with it the row itself would take the right button, as a click.
+    Item {
+        anchors.fill: parent
+        z: 1
+        visible: control.hasMenu
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: point => control.menuRequested(control.itemId, control, point.position.x, point.position.y)
+        }
     }
     FocusRing {
         z: 1
