@@ -90,7 +90,8 @@ private:
     {
         if (!item->isVisible())
             return;
-        if (item->objectName() == name)
+        if (item->objectName() == name && item->window()->geometry().height() > item->mapToScene({}).y() &&
+            item->mapToScene({0, item->height()}).y() > 0)
             found.append(item);
         const QList<QQuickItem *> children = item->childItems();
         for (QQuickItem *child : children)

@@ -143,6 +143,7 @@ void tst_ListViews::junkOpensACard()
     QTRY_VERIFY(f.window->one(u"copyPath"_s));
     f.window->click(f.window->one(u"copyPath"_s));
     QCOMPARE(f.copied.size(), 1);
+    QVERIFY2(!isSelected(f.window->all(u"junkCategory"_s).at(1)), "asking for the menu is not ticking");
     QVERIFY(f.copied.first().startsWith(f.home.appending("Library/Caches").text()));
     f.window->click(f.window->all(u"junkCategoryChevron"_s).at(1));
     QTRY_VERIFY(f.window->all(u"junkFile"_s).isEmpty());
@@ -229,6 +230,7 @@ void tst_ListViews::largeFilesOfferAMenu()
     QVERIFY(f.window->isReady());
     f.window->click(f.window->all(u"largeFile"_s).at(1), Qt::RightButton);
     QTRY_VERIFY(f.window->one(u"showInFileManager"_s));
+    QVERIFY2(!isSelected(f.window->all(u"largeFile"_s).at(1)), "asking for the menu is not ticking");
     f.window->click(f.window->one(u"showInFileManager"_s));
     QCOMPARE(f.fakes.workspace->shown, QList<FileURL>{f.home.appending("Movies/film 101.mov")});
     QTRY_VERIFY(!f.window->one(u"showInFileManager"_s));
@@ -254,8 +256,12 @@ void tst_ListViews::duplicatesShowGroupsAndKeepACopy()
 {
     Duplicates f;
     QVERIFY(f.window->isReady());
-    QCOMPARE(f.window->all(u"duplicateGroup"_s).size(), 2);
+    const QList<QQuickItem *> heads = f.window->all(u"duplicateGroup"_s);
+    QCOMPARE(heads.size(), 2);
     QCOMPARE(f.window->all(u"duplicateFile"_s).size(), 5);
+    const auto topOf = [](const QQuickItem *head) { return head->property("background").value<QQuickItem *>()->y(); };
+    QCOMPARE(topOf(heads.at(0)), 0);
+    QCOMPARE(topOf(heads.at(1)), 12);
     f.window->click(f.file(u"b1"_s));
     QVERIFY(isSelected(f.file(u"b1"_s)));
     QVERIFY2(!f.check(u"b2"_s)->isEnabled(), "at least one copy is kept");
