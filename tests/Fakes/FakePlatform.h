@@ -284,7 +284,9 @@ public:
         lastHint = std::move(hint);
         lastMessage = std::move(message);
         lastButton = std::move(buttonText);
-        co_return answer;
+        // A copy: the coroutine's promise takes apart what it is given.
+        std::optional<FileURL> given = answer;
+        co_return given;
     }
     std::optional<FileURL> answer;
     int asked = 0;
