@@ -40,33 +40,24 @@ FocusScope {
     // A key that is held down has opened the modal; it must not answer it.
     Keys.onReturnPressed: event => { if (root.shown && !event.isAutoRepeat) root.accepted() }
     Keys.onEnterPressed: event => { if (root.shown && !event.isAutoRepeat) root.accepted() }
-    Keys.onTabPressed: root.moveFocus(true)
-    Keys.onBacktabPressed: root.moveFocus(false)
+    Keys.onTabPressed: start.goOn()
+    Keys.onBacktabPressed: end.goBack()
 
-    Component.onCompleted: {
-        before = Window.activeFocusItem
+    Component.onCompleted: takeKeyboard()
+    Component.onDestruction: if (before) before.forceActiveFocus()
+    onShownChanged: if (shown) takeKeyboard()
+
+    function takeKeyboard() {
+        if (!holds(Window.activeFocusItem))
+            before = Window.activeFocusItem
         forceActiveFocus()
     }
-    Component.onDestruction: if (before) before.forceActiveFocus()
-    onShownChanged: if (shown) forceActiveFocus()
-
     function holds(item: Item): bool {
         for (let each = item; each; each = each.parent) {
             if (each === root)
                 return true
         }
         return false
-    }
-    function moveFocus(forward: bool) {
-        const most = 1000 // items; more than a window has in its chain
-        let item = Window.activeFocusItem
-        for (let count = 0; item && count < most; ++count) {
-            item = item.nextItemInFocusChain(forward)
-            if (item !== root && holds(item)) {
-                item.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
-                return
-            }
-        }
     }
 
     NumberAnimation on seconds {
@@ -77,6 +68,14 @@ FocusScope {
         running: root.shown
     }
 
+    // Before the first control and behind the last: whoever comes here has gone once round.
+    Item {
+        id: start
+        activeFocusOnTab: true
+        onActiveFocusChanged: if (activeFocus) end.goBack()
+
+        function goOn() { nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason) }
+    }
     ModalBackdrop {
         source: root.backdropSource
         corner: root.corner
@@ -110,5 +109,12 @@ FocusScope {
                 anchors.fill: parent
             }
         }
+    }
+    Item {
+        id: end
+        activeFocusOnTab: true
+        onActiveFocusChanged: if (activeFocus) start.goOn()
+
+        function goBack() { nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason) }
     }
 }

@@ -27,6 +27,9 @@ ListView {
     reuseItems: true
     cacheBuffer: 400
 
+    // Rows that came after the list have made none of them the present one.
+    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+
     Accessible.role: Accessible.List
     Accessible.name: label
     Accessible.description: summary

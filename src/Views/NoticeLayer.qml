@@ -19,7 +19,7 @@ Item {
     anchors.fill: parent
 
     Loader {
-        id: update
+        id: updateLoader
         property bool stays: false
         anchors.fill: parent
         active: root.notices.updateShown || stays
@@ -36,11 +36,11 @@ Item {
             onDownloadRequested: root.notices.downloadUpdate()
             onSkipRequested: root.notices.skipUpdate()
             onLaterRequested: root.notices.postponeUpdate()
-            onGone: update.stays = false
+            onGone: updateLoader.stays = false
         }
     }
     Loader {
-        id: confirm
+        id: confirmLoader
         property bool stays: false
         anchors.fill: parent
         active: root.notices.confirmShown || stays
@@ -61,13 +61,13 @@ Item {
             onConfirmed: root.notices.acceptConfirm()
             onCancelled: root.notices.cancelConfirm()
             onGone: {
-                confirm.stays = false
+                confirmLoader.stays = false
                 root.notices.confirmHasLeft()
             }
         }
     }
     Loader {
-        id: alert
+        id: alertLoader
         property bool stays: false
         anchors.fill: parent
         active: root.notices.alertShown || stays
@@ -79,11 +79,11 @@ Item {
             title: root.notices.alertTitle
             message: root.notices.alertMessage
             onDismissed: root.notices.dismissAlert()
-            onGone: alert.stays = false
+            onGone: alertLoader.stays = false
         }
     }
     Loader {
-        id: toast
+        id: toastLoader
         property bool stays: false
         anchors.horizontalCenter: parent.horizontalCenter
         active: root.notices.toastShown || stays
@@ -99,7 +99,7 @@ Item {
                 symbol: root.notices.toastSymbol
                 tint: root.notices.toastTint
                 message: root.notices.toastMessage
-                onGone: toast.stays = false
+                onGone: toastLoader.stays = false
             }
         }
     }
