@@ -149,10 +149,10 @@ ListRow {
                             required property int index
                             required property string modelData
                             width: lines.width
-                            itemId: root.fileIds[index]
+                            itemId: root.fileIds[index] ?? ""
                             path: modelData
-                            sizeText: root.fileSizes[index]
-                            symbol: root.fileSymbols[index]
+                            sizeText: root.fileSizes[index] ?? ""
+                            symbol: root.fileSymbols[index] ?? ""
                             onClicked: root.toggled(root.itemId)
                             onMenuRequested: (itemId, row, x, y) => root.menuRequested(itemId, row, x, y)
                         }

@@ -50,15 +50,13 @@ QString lockSymbol(const RelatedFile &file)
     return isMeasured(file) ? QString() : u"lock.fill"_s;
 }
 
-/// One text for each related file of an expanded row.
+/// One text for each related file.
 template <typename TextOf>
 QStringList ofFiles(const AppEntry &entry, TextOf textOf)
 {
     QStringList texts;
-    if (entry.expanded) {
-        for (const RelatedFile &file : entry.app.relatedFiles)
-            texts.append(textOf(file));
-    }
+    for (const RelatedFile &file : entry.app.relatedFiles)
+        texts.append(textOf(file));
     return texts;
 }
 

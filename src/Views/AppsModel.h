@@ -38,7 +38,7 @@ public:
         SummaryRole, // of the related files, in one line
         SelectedRole,
         ExpandedRole,
-        // The related files, in parallel lists; empty while collapsed.
+        // The related files, in parallel lists.
         FileIdsRole,
         FilePathsRole,
         FileSizesRole,

@@ -19,7 +19,8 @@ class OverviewPage final : public PageModel
     Q_PROPERTY(bool duplicatesLoading READ duplicatesLoading NOTIFY changed FINAL)
     Q_PROPERTY(bool largeFilesLoading READ largeFilesLoading NOTIFY changed FINAL)
     Q_PROPERTY(bool junkLoading READ junkLoading NOTIFY changed FINAL)
-    /// What the running scan is doing; empty while none runs.
+    /// Whether any of these scans runs, and what it is doing.
+    Q_PROPERTY(bool loading READ loading NOTIFY changed FINAL)
     Q_PROPERTY(QString scanDetail READ scanDetail NOTIFY changed FINAL)
 
 public:
@@ -32,6 +33,7 @@ public:
     [[nodiscard]] bool duplicatesLoading() const { return m_view.duplicates; }
     [[nodiscard]] bool largeFilesLoading() const { return m_view.largeFiles; }
     [[nodiscard]] bool junkLoading() const { return m_view.junk; }
+    [[nodiscard]] bool loading() const { return m_view.apps || m_view.duplicates || m_view.largeFiles || m_view.junk; }
     [[nodiscard]] const QString &scanDetail() const { return m_view.detail; }
 
     /// Leads to a page.

@@ -129,7 +129,7 @@ Item {
         }
         ScanProgress {
             width: parent.width
-            running: root.page.scanDetail !== ""
+            running: root.page.loading
             detail: root.page.scanDetail
             onStopRequested: root.page.stopScan()
         }

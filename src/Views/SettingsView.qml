@@ -43,7 +43,7 @@ Item {
                 Grid {
                     id: languages
                     width: parent.width
-                    columns: 4
+                    columns: 6
                     spacing: 8
                     Accessible.role: Accessible.List
                     Accessible.name: Texts.of("Language")
@@ -53,7 +53,8 @@ Item {
                             required property string languageId
                             required property string name
                             objectName: "language-" + languageId
-                            width: (languages.width - 3 * languages.spacing) / 4
+                            width: (languages.width - 5 * languages.spacing) / 6
+                            height: 36 // whatever the script of its name
                             text: name
                             onClicked: root.page.chooseLanguage(languageId)
                         }

@@ -43,6 +43,7 @@ public:
     /// Keeps a picture of the window where BRISKO_TEST_PICTURES names a folder, for people to look at.
     void picture(const QString &name)
     {
+        window->view().setColor(window->theme->backgroundBottom());
         const QString folder = qEnvironmentVariable("BRISKO_TEST_PICTURES");
         if (!folder.isEmpty())
             QVERIFY(window->view().grabWindow().save(folder + u'/' + name + QStringLiteral(".png")));

@@ -194,7 +194,7 @@ void tst_OverviewPage::followsEachScan()
     {
         const StateFixture::Held held(f);
         state.scanJunk();
-        QVERIFY(page.junkLoading() && !page.appsLoading() && !page.scanning());
+        QVERIFY(page.loading() && page.junkLoading() && !page.appsLoading() && !page.scanning());
         state.scanLargeFiles(QList<FileURL>{f.home}, 1'000);
         QVERIFY(page.largeFilesLoading());
         state.rescanDuplicates();
@@ -216,7 +216,7 @@ void tst_OverviewPage::saysWhatIsScannedOnlyWhileSomethingIs()
         state.rescanAll();
         QCOMPARE(page.scanDetail(), u"Scanning applications…"_s);
         page.stopScan();
-        QVERIFY(!page.scanning() && !page.appsLoading());
+        QVERIFY(!page.scanning() && !page.loading());
         QCOMPARE(page.scanDetail(), QString());
     }
 }

@@ -370,6 +370,7 @@ void tst_Views::panelLeadsToThePages()
     QSignalSpy posted(&f.notifications, &NotificationCenter::posted);
     f.show(u"MenuBarPanel"_s, {{u"panel"_s, QVariant::fromValue(f.models.panel())}});
     f.window->view().resize(300, 480);
+    QTRY_COMPARE(f.window->view().rootObject()->width(), 300);
     f.picture(u"panel"_s);
     QCOMPARE(f.item(u"panelTemperature"_s)->property("value").toString(), u"--"_s);
     f.click(f.item(u"panelJunk"_s));
