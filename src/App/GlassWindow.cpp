@@ -153,5 +153,7 @@ void GlassWindow::layOut()
 
 void GlassWindow::cutCorners()
 {
-    setMask(m_translucent || maximised() ? QRegion() : roundedMask(size(), radius()));
+    const QRegion shape = m_translucent || maximised() ? QRegion() : roundedMask(size(), radius());
+    if (shape != mask())
+        setMask(shape);
 }

@@ -100,5 +100,7 @@ void PanelWindow::applyCompositing()
 {
     const bool isComposited = m_isComposited();
     rootObject()->setProperty("translucent", isComposited);
-    setMask(isComposited ? QRegion() : roundedMask(size(), Theme::kWindowRadius));
+    const QRegion shape = isComposited ? QRegion() : roundedMask(size(), Theme::kWindowRadius);
+    if (shape != mask())
+        setMask(shape);
 }

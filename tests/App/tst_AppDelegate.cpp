@@ -2,6 +2,7 @@
 #include "App/AppDelegate.h"
 #include "Fakes/FakeDesktop.h"
 #include "Fakes/FakeScheduler.h"
+#include "Fakes/Warnings.h"
 #include "State/StateFixture.h"
 #include "Theme/Texts.h"
 #include "Theme/Theme.h"
@@ -87,7 +88,7 @@ class tst_AppDelegate : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void init() { failOnWarnings(); }
 
     void launchesInTheDocumentedOrder()
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "App/GlassWindow.h"
 #include "Fakes/FakeScheduler.h"
+#include "Fakes/Warnings.h"
 
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -19,7 +20,7 @@ class tst_GlassWindow : public QObject
 private Q_SLOTS:
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        failOnWarnings();
         m_composited = true;
         m_window = std::make_unique<GlassWindow>(&m_engine, m_clock.scheduler(), [this] { return m_composited; });
         m_window->applyCompositing();

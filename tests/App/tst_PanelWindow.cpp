@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "App/PanelWindow.h"
 #include "Fakes/ScratchTree.h"
+#include "Fakes/Warnings.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -19,7 +20,7 @@ class tst_PanelWindow : public QObject
 private Q_SLOTS:
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(u"."_s));
+        failOnWarnings();
         m_composited = true;
         m_panel = std::make_unique<PanelWindow>(
             &m_engine, [this] { return m_composited; }, [this] { return m_now; });

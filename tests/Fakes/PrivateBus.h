@@ -7,7 +7,9 @@
 #include <QProcess>
 #include <QString>
 
+#include <csignal>
 #include <stdexcept>
+#include <sys/prctl.h>
 
 /// A session's message bus of the test's own, on which nothing is but what the test puts there; this process's session
 /// bus from now on, if it is made before that is first used.
@@ -25,6 +27,8 @@ public:
                                       "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/>"
                                       "<allow own=\"*\"/></policy></busconfig>");
         m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        // It ends with the test, however that ends.
+        m_daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
         m_daemon.start(QStringLiteral("dbus-daemon"),
                        {QStringLiteral("--config-file=") + settings.text(), QStringLiteral("--nofork"),
                         QStringLiteral("--print-address=1")});

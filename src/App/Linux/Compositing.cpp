@@ -3,12 +3,9 @@
 
 #include "App/Linux/XcbReply.h"
 
-#include <QGuiApplication>
-#include <QtGui/qguiapplication_platform.h>
-
 bool Compositing::isActive()
 {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t *connection = xcbConnection();
     // Every other display of this system composites always.
-    return !x11 || hasSelectionOwner(x11->connection(), "_NET_WM_CM_S0");
+    return !connection || hasSelectionOwner(connection, "_NET_WM_CM_S0");
 }

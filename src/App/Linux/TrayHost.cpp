@@ -7,8 +7,6 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QDBusVariant>
-#include <QGuiApplication>
-#include <QtGui/qguiapplication_platform.h>
 
 using namespace Qt::StringLiterals;
 
@@ -31,8 +29,8 @@ bool hasHostOnTheBus()
 
 bool hasOlderTray()
 {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 && hasSelectionOwner(x11->connection(), "_NET_SYSTEM_TRAY_S0");
+    xcb_connection_t *connection = xcbConnection();
+    return connection && hasSelectionOwner(connection, "_NET_SYSTEM_TRAY_S0");
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QGuiApplication>
+#include <QtGui/qguiapplication_platform.h>
 
 #include <cstdlib>
 #include <memory>
@@ -13,6 +15,14 @@ struct XcbFree {
 };
 template <typename Reply>
 using XcbReply = std::unique_ptr<Reply, XcbFree>;
+
+/// The connection to the X server; null on every other display.
+inline xcb_connection_t *xcbConnection()
+{
+    // Platforms that merely know X answer an interface too, without a connection.
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
 
 /// Whether any client owns the selection of this name.
 inline bool hasSelectionOwner(xcb_connection_t *connection, const QByteArray &name)
