@@ -149,6 +149,7 @@ ListRow {
                             required property int index
                             required property string modelData
                             width: lines.width
+                            // The lists change one after the other: for a moment one may be the longer.
                             itemId: root.fileIds[index] ?? ""
                             path: modelData
                             sizeText: root.fileSizes[index] ?? ""

@@ -23,8 +23,6 @@ Item {
         anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
         width: check.implicitWidth
         height: check.implicitHeight
-        // Under the check, which lets the pointer through where it is disabled.
-        HelpTip { text: root.selectable ? "" : Texts.of("At least one copy is kept") }
         CircleCheck {
             id: check
             objectName: "duplicateFileCheck"
@@ -36,6 +34,8 @@ Item {
             Accessible.description: root.selectable ? root.path : Texts.of("At least one copy is kept")
             onClicked: root.toggled()
         }
+        // Over the check, which keeps the pointer to itself even where it is disabled.
+        HelpTip { text: root.selectable ? "" : Texts.of("At least one copy is kept") }
     }
     PlainLabel {
         id: path

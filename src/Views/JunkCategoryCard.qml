@@ -114,10 +114,11 @@ ListRow {
                             required property int index
                             required property string modelData
                             width: lines.width
-                            itemId: root.fileIds[index]
+                            // The lists change one after the other: for a moment one may be the longer.
+                            itemId: root.fileIds[index] ?? ""
                             name: modelData
-                            sizeText: root.fileSizes[index]
-                            path: root.filePaths[index]
+                            sizeText: root.fileSizes[index] ?? ""
+                            path: root.filePaths[index] ?? ""
                             onClicked: root.toggled(root.itemId)
                             onMenuRequested: (itemId, row, x, y) => root.menuRequested(itemId, row, x, y)
                         }
