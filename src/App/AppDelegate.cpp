@@ -145,7 +145,6 @@ void AppDelegate::setUpStatusItem()
 {
     m_statusItem = std::make_unique<StatusItem>(m_environment.schedule, m_environment.hasTrayHost);
     connect(m_statusItem.get(), &StatusItem::activated, this, &AppDelegate::toggleStatusPopover);
-    load(*m_statusPopover, m_environment.panelRoot, {{u"panel"_s, QVariant::fromValue(m_pages->panel())}});
     connect(&m_notifications, &NotificationCenter::posted, this, [this](const QString &name) {
         if (name == Notification::openMainWindow)
             handleOpenMainWindow();
@@ -201,6 +200,9 @@ bool AppDelegate::windowShouldClose()
 
 void AppDelegate::toggleStatusPopover()
 {
+    // Filled when it is first asked for: many a program's life passes without, and its start is not to wait for it.
+    if (m_statusPopover->status() == QQuickView::Null)
+        load(*m_statusPopover, m_environment.panelRoot, {{u"panel"_s, QVariant::fromValue(m_pages->panel())}});
     m_statusPopover->toggle(m_statusItem ? m_statusItem->geometry() : QRect());
 }
 
