@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Not bound to its file: a Loader of Qt 6.4 cannot make components that are.
 import QtQuick
-import Qt5Compat.GraphicalEffects
 import Brisko.Theme
 
 // Lies between a modal and what is behind it: takes every click, and shows that blurred. It is drawn once, at a quarter
@@ -13,6 +12,8 @@ Item {
     property int corner: Theme.windowRadius
     /// Whether the blurred picture stands in for what is behind, rather than fading over it.
     property bool covering: true
+    // How often what is behind came to look different.
+    property int version: 0
     signal tapped()
 
     anchors.fill: parent
@@ -21,25 +22,20 @@ Item {
         id: blurred
         anchors.fill: parent
         active: root.GraphicsInfo.api !== GraphicsInfo.Software && root.GraphicsInfo.api !== GraphicsInfo.Unknown
-        sourceComponent: Item {
-            property alias snapshot: picture
-            ShaderEffectSource {
-                id: picture
-                width: root.width
-                height: root.height
-                visible: false
-                sourceItem: root.source
-                live: false
-                hideSource: root.covering
-                textureSize: Qt.size(Math.max(1, Math.ceil(root.width / 4)), Math.max(1, Math.ceil(root.height / 4)))
-            }
-            FastBlur {
-                anchors.fill: parent
-                source: picture
-                radius: 40
-                cached: true
-            }
-        }
+        // By its address, so that what it imports is not loaded when the program starts.
+        Component.onCompleted: setSource("BlurredPicture.qml", { source: root.source, covering: root.covering })
+    }
+    Binding {
+        target: blurred.item
+        property: "covering"
+        value: root.covering
+        when: blurred.status === Loader.Ready
+    }
+    Binding {
+        target: blurred.item
+        property: "version"
+        value: root.version
+        when: blurred.status === Loader.Ready
     }
     Rectangle {
         anchors.fill: parent
@@ -54,11 +50,7 @@ Item {
         onWheel: wheel => wheel.accepted = true
     }
 
-    function retake() {
-        const picture = blurred.item
-        if (picture)
-            picture.snapshot.scheduleUpdate()
-    }
+    function retake() { ++version }
     onWidthChanged: retake()
     onHeightChanged: retake()
     Connections {
