@@ -37,10 +37,18 @@ public:
 
     void setRecords(QList<Record> records)
     {
+        if (m_records.isEmpty()) {
+            // Nothing to compare with: a long list is there at once.
+            if (records.isEmpty())
+                return;
+            beginResetModel();
+            m_records = std::move(records);
+            m_rows.reset();
+            endResetModel();
+            return;
+        }
         const QHash<Key, int> rows = rowsOf(records);
         if (!sharesAKey(rows)) {
-            if (m_records.isEmpty() && records.isEmpty())
-                return;
             beginResetModel();
             m_records = std::move(records);
             m_rows = rows;
