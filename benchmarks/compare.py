@@ -16,6 +16,7 @@ import sys
 import tempfile
 
 import trees
+import window
 import works
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -157,7 +158,7 @@ class Table:
                           for name in list(runs)[1:])
         self.line(title, seconds(ours), words, f"{ratio:.2f}", f"{limit:.2f}", ratio <= limit)
 
-    def counted(self, title, value, words, ratio, limit):
+    def counted(self, title, value, words, ratio, limit=1):
         self.line(title, value, words, f"{ratio:.2f}", f"{limit:.2f}", ratio <= limit)
 
     def line(self, title, ours, others, ratio, limit, kept):
@@ -264,8 +265,44 @@ def peak(work, tree, runner):
     return max(runner.once(work, work.contenders[0], tree, cold=False)[0]["resident"] for _ in range(3))
 
 
+SCROLLED = {"large-files": ("long list of large files", trees.many_large, trees.many_large_space),
+            "duplicates": ("long list of duplicates", trees.many_copies, trees.many_copies_space)}
+WINDOWS = ("window", "scrolling")  # works of the window, with nobody to compare
+MOST_OF_A_FRAME = 50  # milliseconds
+
+
+def scrolling(arguments, scale, scratch, table):
+    """What a frame takes while a long list is scrolled, with its rows made from a scan of a tree of that many files."""
+    reason = window.missing()
+    if reason:
+        say(f"Scrolling is not measured: {reason}.")
+        return
+    for kind, (title, make, _) in SCROLLED.items():
+        say(f"Making the tree for the {title}…")
+        tree = scratch.folder("tree " + kind)
+        os.mkdir(tree)
+        make(tree, scale)
+        with window.Drawn() as desktop:
+            said = scrolled(arguments, scratch, desktop, kind, tree)
+        shutil.rmtree(tree)
+        if said["rows"] < scale.rows:
+            raise Trouble(f"The {title} has {said['rows']} rows.")
+        table.counted(f"{title}: worst frame", f"{said['worst']:.1f} ms",
+                      f"at most {MOST_OF_A_FRAME} ms; {said['rows']:,} rows, median {said['median']:.1f} ms",
+                      said["worst"] / MOST_OF_A_FRAME)
+
+
+def scrolled(arguments, scratch, desktop, kind, tree):
+    environment = {**desktop.environment, **scratch.home("brisko"), "QT_QPA_PLATFORM": "xcb"}
+    answer = subprocess.run([os.path.join(arguments.helpers, "bench_scrolling"), kind, tree], env=environment,
+                            stdin=subprocess.DEVNULL, capture_output=True, check=False)
+    if answer.returncode != 0:
+        raise Trouble(f"bench_scrolling ended with {answer.returncode}: {answer.stderr.decode(errors='replace')}")
+    return json.loads(answer.stdout)
+
+
 def parse_arguments():
-    names = [work.name for work in works.all_works("", "", trees.FULL)]
+    names = [*(work.name for work in works.all_works("", "", trees.FULL)), *WINDOWS]
     parser = argparse.ArgumentParser(prog="bench", description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     programs = os.path.join(TOP, "build", "release", "bin")
@@ -281,6 +318,10 @@ def parse_arguments():
     parser.add_argument("--warm-only", action="store_true", help="leave the page cache of this machine alone")
     parser.add_argument("--strict", action="store_true", help="end with 1 when a limit is missed")
     return parser.parse_args()
+
+
+def wanted(arguments, name):
+    return not arguments.only or name in arguments.only
 
 
 def measure(arguments, chosen, scratch):
@@ -299,7 +340,12 @@ def measure(arguments, chosen, scratch):
         # The walk's tree serves the sizes as well.
         if not any(other.make is work.make for other in chosen[chosen.index(work) + 1:]):
             shutil.rmtree(tree)
-    print(f"* ran once: more than {HOPELESS} times slower than the fastest of the others")
+    if chosen:
+        print(f"* ran once: more than {HOPELESS} times slower than the fastest of the others")
+    if wanted(arguments, "scrolling"):
+        scrolling(arguments, scale, scratch, table)
+    if wanted(arguments, "window"):
+        window.measure(os.path.abspath(arguments.brisko), arguments.rounds, arguments.quick, table, say)
     if table.missed:
         print(f"{table.missed} limits missed")
     return table.missed
@@ -310,15 +356,18 @@ def main():
     scale = trees.QUICK if arguments.quick else trees.FULL
     chosen = [work for work in works.all_works(os.path.abspath(arguments.brisko), os.path.abspath(arguments.helpers),
                                                scale)
-              if not arguments.only or work.name in arguments.only]
-    need = max(work.space(scale) for work in chosen)
+              if wanted(arguments, work.name)]
+    spaces = [work.space for work in chosen]
+    if wanted(arguments, "scrolling"):
+        spaces += [space for _, _, space in SCROLLED.values()]
+    need = max((space(scale) for space in spaces), default=0)
     try:
         scratch = Scratch(arguments.scratch, need, arguments.keep)
         try:
             missed = measure(arguments, chosen, scratch)
         finally:
             scratch.remove()
-    except (Trouble, OSError, subprocess.CalledProcessError) as trouble:
+    except (Trouble, window.Unwatched, AssertionError, OSError, subprocess.CalledProcessError) as trouble:
         print(f"bench: {trouble}", file=sys.stderr)
         return 1
     return 1 if missed and arguments.strict else 0

@@ -22,11 +22,13 @@ class Scale:
     walk_files: int
     trash_files: int
     same_names: int
+    rows: int  # of a long list
 
 
 FULL = Scale(small_files=60_000, large_file=128 * MIB, large_sets=4, walk_files=400_000, trash_files=20_000,
-             same_names=3_000)
-QUICK = Scale(small_files=400, large_file=2 * MIB, large_sets=1, walk_files=3_000, trash_files=120, same_names=40)
+             same_names=3_000, rows=100_000)
+QUICK = Scale(small_files=400, large_file=2 * MIB, large_sets=1, walk_files=3_000, trash_files=120, same_names=40,
+              rows=900)
 
 
 def write(path, content):
@@ -155,3 +157,36 @@ def same_names(root, scale):
 
 def same_names_space(scale):
     return 2 * scale.same_names * 4 * BLOCK
+
+
+def many_large(root, scale):
+    """As many files as a long list has rows, large and without content."""
+    for number in range(scale.rows):
+        if number % 500 == 0:
+            folder = os.path.join(root, f"folder {number // 500:03}")
+            os.mkdir(folder)
+        descriptor = os.open(os.path.join(folder, f"recording {number:06}.mov"), os.O_WRONLY | os.O_CREAT | os.O_EXCL)
+        os.ftruncate(descriptor, LARGE + number * 7_919 % scale.rows)
+        os.close(descriptor)
+
+
+def many_large_space(scale):
+    return scale.rows * KIB
+
+
+def many_copies(root, scale):
+    """Groups of two to four equal files, whose heads and files make as many rows as a long list has."""
+    group = rows = 0
+    while rows < scale.rows:
+        if group % 200 == 0:
+            folder = os.path.join(root, f"folder {group // 200:03}")
+            os.mkdir(folder)
+        content = f"{group:08}".encode() * (600 + group % 5)
+        copies = 2 + group % 3
+        for copy in range(copies):
+            write(os.path.join(folder, f"picture {group:06} copy {copy}.jpg"), content)
+        group, rows = group + 1, rows + 1 + copies
+
+
+def many_copies_space(scale):
+    return scale.rows * 2 * BLOCK

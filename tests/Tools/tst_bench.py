@@ -41,6 +41,9 @@ class Bench(unittest.TestCase):
                       "duplicates, large files: bytes hashed", "large-file walk, warm", "sizes of a tree",
                       "120 files to the Trash", "40 of one name to the Trash"):
             self.assertIn(words, answer.stdout)
+        for words, unless in (("window: memory", "The window is not measured: "),
+                              ("long list of duplicates: worst frame", "Scrolling is not measured: ")):
+            self.assertTrue(words in answer.stdout or unless in answer.stderr, answer)
         self.assertFalse(os.path.exists(self.scratch))
 
     def test_who_finds_less_is_found_out(self):
