@@ -33,14 +33,8 @@ Item {
             anchors.fill: parent
             cornerRadius: root.radius
             density: root.window.translucent ? Theme.glassDensity : 1
-        }
-        Rectangle {
-            anchors.fill: parent
-            radius: root.radius
-            gradient: Gradient {
-                GradientStop { position: 0; color: Theme.windowTintTop }
-                GradientStop { position: 1; color: Theme.windowTintBottom }
-            }
+            tintTop: Theme.windowTintTop
+            tintBottom: Theme.windowTintBottom
         }
         WindowDragArea {
             anchors.fill: parent

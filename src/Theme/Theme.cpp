@@ -42,6 +42,17 @@ QColor Theme::at(const QColor &colour, double opacity)
     return faded;
 }
 
+QColor Theme::over(const QColor &upper, const QColor &lower)
+{
+    const float rest = lower.alphaF() * (1 - upper.alphaF());
+    const float alpha = upper.alphaF() + rest;
+    if (alpha <= 0)
+        return Qt::transparent;
+    const auto mixed = [&](float above, float below) { return (above * upper.alphaF() + below * rest) / alpha; };
+    return QColor::fromRgbF(mixed(upper.redF(), lower.redF()), mixed(upper.greenF(), lower.greenF()),
+                            mixed(upper.blueF(), lower.blueF()), alpha);
+}
+
 QColor Theme::dynamic(quint32 light, double lightAlpha, quint32 dark, double darkAlpha) const
 {
     return m_dark ? at(fromHex(dark), darkAlpha) : at(fromHex(light), lightAlpha);

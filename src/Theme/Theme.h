@@ -129,6 +129,8 @@ public:
     Q_INVOKABLE [[nodiscard]] static QColor fromHex(quint32 rgb);
     /// `colour` at another opacity, 0 to 1.
     Q_INVOKABLE [[nodiscard]] static QColor at(const QColor &colour, double opacity);
+    /// What is seen where one colour lies over another, as one colour.
+    Q_INVOKABLE [[nodiscard]] static QColor over(const QColor &upper, const QColor &lower);
 
 Q_SIGNALS:
     void darkChanged();
