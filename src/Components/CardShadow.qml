@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 pragma ComponentBehavior: Bound
 import QtQuick
+import Brisko.Painted
 import Brisko.Theme
 
 // The soft shadow around a rounded rectangle; its inside stays clear. Lies under its parent's fill.
@@ -14,14 +15,21 @@ Item {
 
     anchors.fill: parent
 
-    BorderImage {
+    Image {
+        id: picture
         readonly property string rgb: root.color.toString().slice(-6)
-        readonly property int edge: root.radius + 2 * root.blur
-
-        anchors.fill: parent
-        anchors.margins: -root.blur
+        visible: false
         source: "image://shadow/" + rgb + "-" + Math.round(root.color.a * 100) + "-" + root.radius + "-" + root.blur
                 + "-" + root.drop
-        border { left: edge; top: edge; right: edge; bottom: edge }
+        onStatusChanged: frame.update()
+        onSourceChanged: frame.update()
+    }
+    ShadowFrame {
+        id: frame
+        anchors.fill: parent
+        anchors.margins: -root.blur
+        picture: picture
+        corner: root.radius + 2 * root.blur
+        depth: root.blur + 2
     }
 }
