@@ -74,6 +74,16 @@ class Lint(unittest.TestCase):
         self.assertEqual(status, 1, said)
         self.assertIn(words, said)
 
+    def test_reads_qml(self):
+        folder = os.path.join(self.root, "src", "Components")
+        os.mkdir(folder)
+        self.write(os.path.join(folder, "Planted.qml"), "import QtQuick\nItem {\n    width: 3\n}\n")
+        self.assertNotIn("-- qml", self.answer(CLEAN)[1])
+        self.write(os.path.join(folder, "Planted.qml"), "import QtQuick\nItem {\n    width 3\n}\n")
+        code, said = self.answer(CLEAN)
+        self.assertEqual(code, 1)
+        self.assertIn("-- qml", said)
+
     def test_parses_what_the_program_is_written_in(self):
         self.assertEqual(self.answer(CLEAN), (0, "lint: nothing to say\n"))
 

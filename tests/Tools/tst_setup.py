@@ -37,6 +37,15 @@ class SetUp(unittest.TestCase):
                      '*) exit "${BUILDS:-0}" ;; esac')
         self.program("ninja", 'echo "${NINJA:-ninja: no work to do.}"', logged=False)
         self.brisko()
+        self.font = os.path.join(self.root, "symbols/node_modules/framework7-icons/fonts/Framework7Icons-Regular.ttf")
+        os.makedirs(os.path.dirname(self.font))
+        self.plant(os.path.join(self.root, "symbols", "package-lock.json"))
+        self.plant(self.font)
+
+    @staticmethod
+    def plant(path):
+        with open(path, "w", encoding="utf-8"):
+            pass
 
     def program(self, name, body, logged=True):
         path = os.path.join(self.programs, name)
@@ -79,6 +88,22 @@ class SetUp(unittest.TestCase):
         self.assertEqual(first.stdout, second.stdout)
         self.assertEqual(self.apt_calls(), [])
         self.assertEqual([line for line in self.calls() if line.startswith("cmake")], ["cmake --preset release"])
+
+    def test_fetches_the_symbol_font_once(self):
+        os.remove(self.font)
+        self.program("npm", f'mkdir -p "{os.path.dirname(self.font)}"; : > "{self.font}"')
+        first = self.run_it("--version")
+        self.run_it("--version")
+        self.assertEqual((first.returncode, first.stdout), (7, "brisko in /: --version\n"), first.stderr)
+        self.assertIn("Fetching the symbol font", first.stderr)
+        self.assertEqual([line.split()[:2] for line in self.calls() if line.startswith("npm")], [["npm", "ci"]])
+
+    def test_a_font_that_cannot_be_fetched_ends_it_with_the_tools_words(self):
+        os.remove(self.font)
+        self.program("npm", 'echo "the digest differs"; exit 1')
+        answer = self.run_it("--version")
+        self.assertEqual((answer.returncode, answer.stdout), (1, ""))
+        self.assertIn("the digest differs", answer.stderr)
 
     def test_says_which_packages_are_missing_and_why_and_installs_those(self):
         self.install("first")
