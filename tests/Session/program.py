@@ -172,7 +172,7 @@ class Brisko:
 
     def open_page(self, name):
         """Goes to a page by its row in the sidebar."""
-        self.click(self.wait(name, TAB))
+        self.click(self.wait(name, TAB, that=lambda tab: tab.enabled))
         self.wait(name, TAB, that=lambda tab: tab.selected)
 
     def current_page(self):
