@@ -32,7 +32,7 @@ BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration
 </busconfig>"""
 
 
-def wait_for(question, what, seconds=15, pause=0.05):
+def wait_for(question, what, seconds=30, pause=0.05):
     """Asks again and again until the answer is a yes, which it returns."""
     end = time.monotonic() + seconds
     while True:
@@ -334,7 +334,7 @@ class Desktop:
         answer = self.root.get_image(x, y, right - x, bottom - y, X.ZPixmap, 0xFFFFFFFF)
         return Picture(right - x, bottom - y, bytes(answer.data))
 
-    def settled(self, x, y, width, height, quiet=0.4, seconds=15):
+    def settled(self, x, y, width, height, quiet=0.4, seconds=30):
         """The picture of a part of the screen once it has not changed for a while."""
         last, since, end = None, 0.0, time.monotonic() + seconds
         while time.monotonic() < end:

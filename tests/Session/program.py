@@ -79,7 +79,7 @@ class Brisko:
         return [line for line in self.output().splitlines()
                 if line.strip() and not any(re.search(pattern, line) for pattern, _ in ALLOWED_OUTPUT)]
 
-    def wait_for_end(self, seconds=15):
+    def wait_for_end(self, seconds=30):
         try:
             return self.process.wait(seconds)
         except subprocess.TimeoutExpired:
@@ -139,7 +139,7 @@ class Brisko:
         """The first that shows now, or None."""
         return next(self.look().matching(name, role), None)
 
-    def wait(self, name=None, role=None, seconds=15, that=lambda element: True):
+    def wait(self, name=None, role=None, seconds=30, that=lambda element: True):
         """The first with that name and role, once it shows and is `that`."""
         def seen():
             return next((element for element in self.look().matching(name, role) if that(element)), None)
@@ -148,7 +148,7 @@ class Brisko:
         except AssertionError as missing:
             raise AssertionError(f"{missing}; what shows:\n{self.look().outline()}") from None
 
-    def wait_gone(self, name=None, role=None, seconds=15):
+    def wait_gone(self, name=None, role=None, seconds=30):
         wait_for(lambda: self.find(name, role) is None, f"end of the {role or 'element'} {name!r}", seconds, 0.1)
 
     def wait_for_text(self, pattern, seconds=30):
@@ -163,7 +163,7 @@ class Brisko:
     def click(self, element, button=1):
         self.desktop.click(*element.centre(), button=button)
 
-    def button(self, name, seconds=15):
+    def button(self, name, seconds=30):
         """A button that can be pressed."""
         return self.wait(name, BUTTON, seconds, lambda element: element.enabled)
 
@@ -195,7 +195,7 @@ class Brisko:
         self.click(next(iter(dialog.matching(button, BUTTON))))
         self.wait_gone(title, DIALOG)
 
-    def toast(self, pattern, seconds=20):
+    def toast(self, pattern, seconds=30):
         return self.wait(re.compile(pattern), ALERT_MESSAGE, seconds)
 
     def choose_in_menu(self, button, item):
