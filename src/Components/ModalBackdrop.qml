@@ -14,6 +14,8 @@ Item {
     property bool covering: true
     // How often what is behind came to look different.
     property int version: 0
+    // The modal is seen at once; the first blur of a window takes a while to be made ready.
+    property bool waited: false
     signal tapped()
 
     anchors.fill: parent
@@ -21,7 +23,8 @@ Item {
     Loader {
         id: blurred
         anchors.fill: parent
-        active: root.GraphicsInfo.api !== GraphicsInfo.Software && root.GraphicsInfo.api !== GraphicsInfo.Unknown
+        active: root.waited && root.GraphicsInfo.api !== GraphicsInfo.Software
+                && root.GraphicsInfo.api !== GraphicsInfo.Unknown
         // By its address, so that what it imports is not loaded when the program starts.
         Component.onCompleted: setSource("BlurredPicture.qml", { source: root.source, covering: root.covering })
     }
@@ -48,6 +51,12 @@ Item {
         hoverEnabled: true
         onClicked: root.tapped()
         onWheel: wheel => wheel.accepted = true
+    }
+
+    Timer {
+        interval: 60
+        running: true
+        onTriggered: root.waited = true
     }
 
     function retake() { ++version }
