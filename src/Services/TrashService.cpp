@@ -5,7 +5,16 @@
 #include "Platform/Platform.h"
 #include "Services/RemovalGuard.h"
 
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <array>
 #include <memory>
+#include <optional>
+#include <thread>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -99,12 +108,76 @@ private:
     TrashResult m_result;
 };
 
+constexpr qsizetype kManyItems = 512; // below, a second thread costs more than it gives
+constexpr size_t kWorkers = 2;        // the folders of a Trash take one change each at a time
+
+/// Whether no item lies within another, so that their order does not matter.
+bool areApart(const QList<TrashService::Item> &items)
+{
+    QSet<FileURL> all;
+    all.reserve(items.size());
+    for (const TrashService::Item &item : items)
+        all.insert(item.url);
+    if (all.size() != items.size())
+        return false;
+    QHash<FileURL, bool> clear; // folders, and whether neither they nor what holds them is an item
+    const auto isClear = [&](auto &self, const FileURL &folder) -> bool {
+        if (const auto known = clear.constFind(folder); known != clear.cend())
+            return *known;
+        const bool answer = !all.contains(folder) && (folder == FileURL::root() || self(self, folder.parent()));
+        clear.insert(folder, answer);
+        return answer;
+    };
+    return std::ranges::all_of(items, [&](const TrashService::Item &item) {
+        return item.whole == Whole::No && item.url != FileURL::root() && isClear(isClear, item.url.parent());
+    });
+}
+
+void append(TrashResult &all, const TrashResult &more)
+{
+    all.removed += more.removed;
+    all.failed += more.failed;
+    all.notReached += more.notReached;
+}
+
+/// Two threads move what has nothing to do with each other; items of one name stay with one, which numbers them. The
+/// answer is in the order of the items.
+TrashResult trashMany(const Platform &platform, const QList<TrashService::Item> &items, const CancelToken &cancel)
+{
+    std::vector<TrashResult> outcomes(static_cast<size_t>(items.size()));
+    // They end one after the other: what a batch does last is the Trash's as a whole.
+    std::array<std::optional<Run>, kWorkers> runs;
+    const auto work = [&](size_t worker) {
+        Run &run = runs.at(worker).emplace(platform, cancel);
+        for (size_t at = 0; at < outcomes.size(); ++at) {
+            const TrashService::Item &item = items.at(static_cast<qsizetype>(at));
+            if (qHash(item.url.name()) % kWorkers != worker)
+                continue;
+            if (run.isStopped())
+                run.result().notReached.append(item.url);
+            else
+                run.trash(item);
+            outcomes[at] = std::exchange(run.result(), {});
+        }
+    };
+    std::thread second(work, 1);
+    work(0);
+    second.join();
+
+    TrashResult all;
+    for (const TrashResult &outcome : outcomes)
+        append(all, outcome);
+    return all;
+}
+
 } // namespace
 
 TrashResult TrashService::trash(const Platform &platform, const QList<Item> &items, const CancelToken &cancel)
 {
     if (items.isEmpty())
         return {};
+    if (items.size() >= kManyItems && areApart(items))
+        return trashMany(platform, items, cancel);
     Run run(platform, cancel);
     for (const Item &item : items) {
         if (run.isStopped())

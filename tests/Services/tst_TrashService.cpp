@@ -66,6 +66,67 @@ TEST_F(TrashServiceTest, movesItemsInTheirOrderAndGoesOnAfterAFailure)
     EXPECT_EQ(m_fake.trashCan->asked(), (QList<FileURL>{c, b, a}));
 }
 
+TEST_F(TrashServiceTest, answersForThousandsOfItemsInTheirOrder)
+{
+    QList<FileURL> items;
+    TrashResult expected;
+    QList<FileURL> folders;
+    for (int number = 0; number < 1'500; ++number) {
+        const QByteArray text = QByteArray::number(number);
+        // Many share a name, some refuse, and some folders have to be taken apart.
+        if (number % 50 == 7) {
+            const QList<FileURL> files = folderOfThree("home/x/folder" + text);
+            items.append(m_tree.at("home/x/folder" + text));
+            expected.removed += files;
+            folders.append(items.constLast());
+        } else {
+            items.append(m_tree.file("home/x/" + text + (number % 3 == 0 ? "/same" : "/file" + text)));
+            if (number % 40 == 0)
+                expected.failed.append(denied(items.constLast()));
+            else
+                expected.removed.append(items.constLast());
+        }
+    }
+    for (const FileURL &folder : folders)
+        m_fake.trashCan->refuse(folder);
+    for (const FailedTrash &failure : expected.failed)
+        m_fake.trashCan->refuse(failure.url);
+    EXPECT_EQ(trash(items), expected);
+    for (const FailedTrash &failure : expected.failed)
+        EXPECT_TRUE(ScratchTree::exists(failure.url));
+}
+
+TEST_F(TrashServiceTest, movesNestedItemsOneAfterTheOtherHoweverMany)
+{
+    QList<FileURL> items;
+    for (int number = 0; number < 600; ++number) {
+        const QByteArray folder = "home/x/" + QByteArray::number(number);
+        items.append(m_tree.file(folder + "/inside"));
+        items.append(m_tree.at(folder));
+    }
+    EXPECT_EQ(trash(items), (TrashResult{.removed = items, .failed = {}, .notReached = {}}));
+    EXPECT_EQ(m_fake.trashCan->asked(), items);
+}
+
+TEST_F(TrashServiceTest, stopsAmongThousandsAndNamesWhatWasNotReached)
+{
+    QList<FileURL> items;
+    for (int number = 0; number < 2'000; ++number)
+        items.append(m_tree.file("home/x/" + QByteArray::number(number)));
+    m_fake.trashCan->setBefore([this](const FileURL &item) {
+        if (item.name() == "100")
+            m_cancel.cancel();
+    });
+    const TrashResult result = trash(items);
+    EXPECT_FALSE(result.notReached.isEmpty());
+    EXPECT_TRUE(result.failed.isEmpty());
+    EXPECT_EQ(result.removed.size() + result.notReached.size(), items.size());
+    for (const FileURL &item : result.notReached)
+        EXPECT_TRUE(ScratchTree::exists(item));
+    for (const FileURL &item : result.removed)
+        EXPECT_FALSE(ScratchTree::exists(item));
+}
+
 TEST_F(TrashServiceTest, movesTheChildrenOfAFolderThatRefuses)
 {
     const QList<FileURL> files = folderOfThree("home/x/folder");
