@@ -20,6 +20,9 @@ GlassCard {
     // Without a figure to show, an arc that turns says that one is being looked for.
     readonly property bool spinning: scanning && !hasProgress
     property real animated: 0
+    // The figures of a machine at rest waver by a few percent all the time. Such a step is taken at once: every frame of
+    // a sweep that hardly moves costs as much as one of a long one.
+    property bool sweeps: true
 
     implicitHeight: column.implicitHeight + 2 * padding
     padding: 20
@@ -28,9 +31,13 @@ GlassCard {
     Accessible.description: detail === "" ? value : value + ", " + detail
 
     Behavior on animated {
+        enabled: root.sweeps
         NumberAnimation { duration: Theme.ring; easing.type: Easing.OutQuad }
     }
-    onProgressChanged: animated = progress
+    onProgressChanged: {
+        sweeps = Math.abs(progress - animated) > 0.05
+        animated = progress
+    }
     Component.onCompleted: animated = progress
 
     Column {
