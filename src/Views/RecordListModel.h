@@ -58,7 +58,9 @@ public:
         removeAllBut(rows);
         if (!keepsOrder(rows))
             reorder(rows);
-        insertMissing(records);
+        // Keys are unique: as many as there shall be are all of them.
+        if (m_records.size() != records.size())
+            insertMissing(records);
         m_rows = rows;
         changeTo(std::move(records));
     }

@@ -21,7 +21,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr double kLongest = 50; // milliseconds
+// Milliseconds. What developers run interprets its QML and optimises nothing, so it is held to three times what people
+// are promised.
+#ifdef NDEBUG
+constexpr double kLongest = 50;
+#else
+constexpr double kLongest = 150;
+#endif
 constexpr int kFiles = 50'000;
 constexpr int kRemoved = 20'000;
 constexpr int kCopies = 20'000;
@@ -111,7 +117,7 @@ private Q_SLOTS:
     void aBlockedThreadIsNoticed()
     {
         Watchdog watchdog;
-        QTest::qSleep(80);
+        QTest::qSleep(static_cast<int>(2 * kLongest));
         QVERIFY(watchdog.worst() > kLongest);
     }
 
