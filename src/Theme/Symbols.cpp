@@ -20,7 +20,6 @@ constexpr QLatin1StringView kDrawn{""};
 // In the order of their names. Most ligatures are the name with its dots as underscores; the others are the nearest
 // that the font has.
 constexpr std::array kTable = {
-    Row{QLatin1StringView("ant"), QLatin1StringView("ant")},
     Row{QLatin1StringView("app.badge"), QLatin1StringView("app_badge")},
     Row{QLatin1StringView("app.dashed"), kDrawn},
     Row{QLatin1StringView("app.fill"), QLatin1StringView("app_fill")},
@@ -47,7 +46,6 @@ constexpr std::array kTable = {
     Row{QLatin1StringView("doc.plaintext"), QLatin1StringView("doc_plaintext")},
     Row{QLatin1StringView("doc.text"), QLatin1StringView("doc_text")},
     Row{QLatin1StringView("doc.text.magnifyingglass"), QLatin1StringView("doc_text_search")},
-    Row{QLatin1StringView("ellipsis"), QLatin1StringView("ellipsis")},
     Row{QLatin1StringView("envelope"), QLatin1StringView("envelope")},
     Row{QLatin1StringView("exclamationmark.triangle.fill"), QLatin1StringView("exclamationmark_triangle_fill")},
     Row{QLatin1StringView("folder"), QLatin1StringView("folder")},
@@ -106,4 +104,12 @@ QString Symbols::ligature(const QString &name)
 bool Symbols::isKnown(QStringView name)
 {
     return find(name) != nullptr;
+}
+
+QStringList Symbols::names()
+{
+    QStringList names;
+    for (const Row &row : kTable)
+        names.append(row.name);
+    return names;
 }

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 #include <QtQmlIntegration>
 
@@ -25,6 +26,8 @@ public:
 
     /// Whether the name stands in the table at all.
     [[nodiscard]] static bool isKnown(QStringView name);
+    /// Every name in the table.
+    [[nodiscard]] static QStringList names();
 
 private:
     QString m_family;
