@@ -3,11 +3,11 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brisko.Theme
 
-// Lifts its parent's `target` by two points while the pointer is over it.
+// Lifts a card by two points while the pointer is over this item's parent, and turns its shadow blue.
 Item {
     id: root
 
-    required property Item target
+    required property GlassCard target
     property bool lifting: true
 
     readonly property bool hovering: lifting && hover.hovered
@@ -20,5 +20,8 @@ Item {
         y: root.hovering ? -2 : 0
         Behavior on y { NumberAnimation { duration: Theme.gentle; easing.type: Easing.OutQuad } }
     }
-    Component.onCompleted: target.transform = [lift]
+    Component.onCompleted: {
+        target.transform = [lift]
+        target.lifted = Qt.binding(() => root.hovering)
+    }
 }
