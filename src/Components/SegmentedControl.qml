@@ -64,6 +64,7 @@ Item {
                 checked: isCurrent
 
                 Accessible.name: text
+                Accessible.readOnly: !enabled
                 Accessible.selectable: true
                 Accessible.selected: isCurrent
                 Accessible.onPressAction: if (enabled) clicked()
