@@ -22,14 +22,6 @@ void Theme::setReducedMotion(bool reduced)
     Q_EMIT reducedMotionChanged();
 }
 
-void Theme::setGlassDensity(double density)
-{
-    if (m_glassDensity == density)
-        return;
-    m_glassDensity = density;
-    Q_EMIT glassDensityChanged();
-}
-
 QColor Theme::fromHex(quint32 rgb)
 {
     return QColor::fromRgb((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);

@@ -51,7 +51,7 @@ class Theme : public QObject
     /// The edge of an empty check box, which must not vanish on a bright wallpaper.
     Q_PROPERTY(QColor checkEdge READ checkEdge NOTIFY darkChanged FINAL)
     /// How much of what is behind the window its background hides, 0 to 1.
-    Q_PROPERTY(double glassDensity READ glassDensity WRITE setGlassDensity NOTIFY glassDensityChanged FINAL)
+    Q_PROPERTY(double glassDensity READ glassDensity NOTIFY darkChanged FINAL)
     /// The same for the status area's panel, which lies over whatever is on screen.
     Q_PROPERTY(double panelDensity MEMBER kPanelDensity CONSTANT FINAL)
 
@@ -115,9 +115,9 @@ public:
     [[nodiscard]] QColor focusRing() const { return dynamic(0x3882F6, 0.9, 0x93C5FD, 0.9); }
 
     [[nodiscard]] QColor accentText() const { return dynamic(0x1D4ED8, 1, 0x93C5FD, 1); }
-    [[nodiscard]] QColor checkEdge() const { return dynamic(0x94A3B8, 1, 0x64748B, 1); }
-    [[nodiscard]] double glassDensity() const { return m_glassDensity; }
-    void setGlassDensity(double density);
+    [[nodiscard]] QColor checkEdge() const { return dynamic(0x718096, 1, 0x7C8BA1, 1); }
+    // Light glass turns grey over a dark wallpaper, and grey texts on it fade; dark glass has room to spare.
+    [[nodiscard]] double glassDensity() const { return m_dark ? 0.84 : 0.92; }
 
     [[nodiscard]] int quick() const { return m_reducedMotion ? 0 : 150; }
     [[nodiscard]] int gentle() const { return m_reducedMotion ? 0 : 200; }
@@ -135,7 +135,6 @@ public:
 Q_SIGNALS:
     void darkChanged();
     void reducedMotionChanged();
-    void glassDensityChanged();
 
 private:
     [[nodiscard]] QColor dynamic(quint32 light, double lightAlpha, quint32 dark, double darkAlpha) const;
@@ -152,5 +151,4 @@ private:
 
     bool m_dark = false;
     bool m_reducedMotion = false;
-    double m_glassDensity = 0.84;
 };

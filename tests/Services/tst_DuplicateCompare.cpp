@@ -475,7 +475,7 @@ TEST_F(DuplicateCompareTest, LongFilesAreToldApartWhereverTheyDiffer)
     constexpr int sizes = 6;
     Names expected;
     for (int which = 0; which < sizes; ++which) {
-        const qint64 size = BlockCompare::kRange + 1 + which * 100;
+        const qint64 size = BlockCompare::kRange + 1 + qint64{which} * 100;
         const QByteArray name = QByteArray::number(which);
         const std::vector<qint64> places{size - 1, size / 2, BlockCompare::kRange - 1, kPrefix, kPrefix - 1, 0};
         addSparse(name + "-a", size, std::nullopt);

@@ -106,9 +106,7 @@ private Q_SLOTS:
             ++differing;
             // A property that changes without a word leaves the old colour on screen.
             QVERIFY2(property.hasNotifySignal(), property.name());
-            QVERIFY2(property.notifySignal().name() == "darkChanged" ||
-                         property.notifySignal().name() == "glassDensityChanged",
-                     property.name());
+            QCOMPARE(property.notifySignal().name(), QByteArray("darkChanged"));
         }
         QVERIFY(differing >= 15);
     }
