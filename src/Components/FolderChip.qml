@@ -22,6 +22,7 @@ Rectangle {
     border.width: 1
     border.color: Theme.border
 
+    HelpTip { text: root.path } // below the button, which has to feel the pointer
     Row {
         id: row
         anchors { left: parent.left; leftMargin: 8; verticalCenter: parent.verticalCenter }
@@ -63,5 +64,4 @@ Rectangle {
             onClicked: root.removeRequested()
         }
     }
-    HelpTip { text: root.path }
 }

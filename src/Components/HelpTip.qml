@@ -4,19 +4,21 @@ import QtQuick
 import QtQuick.Templates as T
 import Brisko.Theme
 
-// A tip over its parent, also where that is disabled: the handler is this item's own.
+// A tip over its parent, also where that is disabled: the handler is this item's own. What lies below it does not feel
+// the pointer, so one without a text is not there.
 Item {
     id: root
 
     property string text: ""
 
     anchors.fill: parent
+    visible: text !== ""
 
     HoverHandler { id: hover }
     // A long list has a tip for every row: only the one in use exists.
     Loader {
         anchors.fill: parent
-        active: hover.hovered && root.text !== ""
+        active: hover.hovered && root.visible
         sourceComponent: Item {
             T.ToolTip {
                 id: tip
