@@ -88,11 +88,13 @@ QCoro::Task<RemovalReport> AppState::runDuplicateRemoval(QPointer<AppState> self
     if (files.isEmpty())
         co_return {};
 
-    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                        [platform = self->m_environment.platform, urls = RemovalReports::urlsOf(files),
-                                         stop = run.stop()] { return TrashService::trash(*platform, urls, stop); });
-    const TrashResult result = co_await work;
-    auto settled = RemovalReports::settle(files, result, Outcomes::duplicates, Outcomes::Count::said);
+    // What it came to is judged where it was done: among thousands of files that takes longer than a frame.
+    const auto work = QtConcurrent::run(
+        &self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, files, stop = run.stop()] {
+            const TrashResult result = TrashService::trash(*platform, RemovalReports::urlsOf(files), stop);
+            return RemovalReports::settle(files, result, Outcomes::duplicates, Outcomes::Count::said);
+        });
+    auto settled = co_await work;
     if (!self)
         co_return settled.report;
     if (const qint64 count = settled.removed.size(); count > 0) {

@@ -60,15 +60,16 @@ QCoro::Task<RemovalReport> AppState::runJunkRemoval(QPointer<AppState> self, QUu
         co_return {};
     const JunkCategory category = *found;
 
-    const auto work = QtConcurrent::run(&self->m_environment.pools->userInitiated,
-                                        [platform = self->m_environment.platform, category, stop = run.stop()] {
-                                            const QList<FileURL> urls = RemovalReports::urlsOf(category.files);
-                                            return category.deletesDirectly
-                                                       ? TrashService::deletePermanently(*platform, urls, stop)
-                                                       : TrashService::trash(*platform, urls, stop);
-                                        });
-    const TrashResult result = co_await work;
-    auto settled = RemovalReports::settle(category.files, result, Outcomes::junk);
+    // What it came to is judged where it was done: among thousands of files that takes longer than a frame.
+    const auto work =
+        QtConcurrent::run(&self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, category,
+                                                                      stop = run.stop()] {
+            const QList<FileURL> urls = RemovalReports::urlsOf(category.files);
+            const TrashResult result = category.deletesDirectly ? TrashService::deletePermanently(*platform, urls, stop)
+                                                                : TrashService::trash(*platform, urls, stop);
+            return RemovalReports::settle(category.files, result, Outcomes::junk);
+        });
+    auto settled = co_await work;
     if (!self)
         co_return settled.report;
     if (!settled.removed.isEmpty()) {
