@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentWindow.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
 #include <QQmlExtensionPlugin>
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -25,6 +28,94 @@ class tst_Controls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyComponentCanBeMadeAlone_data()
+    {
+        QTest::addColumn<QString>("qml");
+        const QHash<QString, QString> fields{
+            {u"AccessBanner"_s, u"text: 'a'; width: 300"_s},
+            {u"AlertModal"_s, u"title: 'a'; message: 'b'; shown: true; backdropSource: null"_s},
+            {u"AppIcon"_s, u"source: ''"_s},
+            {u"BlurredPicture"_s, u"source: null; covering: false"_s},
+            {u"ChevronButton"_s, u"label: 'a'"_s},
+            {u"ChoiceButton"_s, u"text: 'a'; chosen: true"_s},
+            {u"CircleCheck"_s, u"label: 'a'"_s},
+            {u"CircularIconButton"_s, u"label: 'a'; symbol: 'plus'"_s},
+            {u"ConfirmModal"_s, u"title: 'a'; icon: ''; symbol: 'trash'; message: 'b'; labels: ['c']; values: ['d']\n"
+                                "confirmTitle: 'e'; busy: false; shown: true; backdropSource: null"_s},
+            {u"EmptyState"_s, u"symbol: 'trash'; title: 'a'; hint: 'b'"_s},
+            {u"FocusRing"_s, u"shown: true"_s},
+            {u"FolderChip"_s, u"name: 'a'"_s},
+            {u"GaugeTile"_s, u"title: 'a'; value: 'b'; width: 150"_s},
+            {u"GradientSquare"_s, u"symbol: 'trash'; width: 40; height: 40"_s},
+            {u"HoverLift"_s, u"target: GlassCard {}"_s},
+            {u"MetaPill"_s, u"symbol: 'calendar'; text: 'a'"_s},
+            {u"MiniGauge"_s, u"title: 'a'; value: 'b'; width: 90"_s},
+            {u"MiniTile"_s, u"title: 'a'; value: 'b'; symbol: 'trash'; width: 150"_s},
+            {u"ModalBackdrop"_s, u"source: null"_s},
+            {u"ModalCard"_s, u"title: 'a'; shown: true; backdropSource: null"_s},
+            {u"PageFooter"_s, u"status: 'a'; width: 300"_s},
+            {u"PageHeader"_s, u"title: 'a'; width: 300"_s},
+            {u"PageList"_s, u"label: 'a'"_s},
+            {u"PanelRow"_s, u"text: 'a'; symbol: 'power'"_s},
+            {u"ScanProgress"_s, u"running: true; detail: 'a'; width: 300"_s},
+            {u"SegmentedControl"_s, u"texts: ['a', 'b']; current: 0"_s},
+            {u"SpinningSymbol"_s, u"symbol: 'trash'; running: true"_s},
+            {u"StatTile"_s, u"title: 'a'; subtitle: 'b'; value: 'c'; symbol: 'trash'; width: 200"_s},
+            {u"SymbolIcon"_s, u"symbol: 'app.dashed'"_s},
+            {u"ToastView"_s, u"shown: true; symbol: 'trash'; tint: 0; message: 'a'"_s},
+            {u"UpdateModal"_s, u"version: 'a'; date: 'b'; fileSize: 'c'; notes: 'd'; shown: true\n"
+                               "backdropSource: null"_s},
+        };
+        const QStringList files = QDir(u":/qt/qml/Brisko/Components"_s).entryList({u"*.qml"_s});
+        QVERIFY(files.size() > fields.size());
+        for (const QString &file : files) {
+            const QString name = QFileInfo(file).baseName();
+            QTest::newRow(qPrintable(name)) << u"Item { width: 300; height: 200\n%1 { %2 } }"_s.arg(name, fields[name]);
+        }
+    }
+    void everyComponentCanBeMadeAlone()
+    {
+        QFETCH(const QString, qml);
+        ComponentWindow window; // a warning fails the test
+        QVERIFY(window.show(qml));
+        window.hover();
+        QVERIFY(!window.picture().isNull());
+        window.theme->setDark(true);
+        window.root->setEnabled(false);
+        QVERIFY(!window.picture().isNull());
+    }
+
+    void aMenuIsDrivenByTheKeyboard()
+    {
+        ComponentWindow window;
+        QVERIFY(
+            window.show(u"Item { id: root; width: 200; height: 40; signal chosen(string what)\n"
+                        "  function open() { menu.popup(0, 0) }\n"
+                        "  property alias opened: menu.opened\n"
+                        "  PopupMenu { id: menu\n"
+                        "    MenuRowButton { text: 'One'; onTriggered: root.chosen(text) }\n"
+                        "    MenuRowButton { text: 'Two'; onTriggered: root.chosen(text) }\n"
+                        "    MenuRowButton { text: 'Three'; enabled: false; onTriggered: root.chosen(text) } } }"_s));
+        QSignalSpy chosen(window.root.get(), SIGNAL(chosen(QString)));
+        const auto open = [&] {
+            QMetaObject::invokeMethod(window.root.get(), "open");
+            QTRY_VERIFY(window.value("opened").toBool());
+        };
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+            open();
+            window.press(Qt::Key_Down);
+            window.press(Qt::Key_Down);
+            window.press(key);
+            QTRY_VERIFY(!window.value("opened").toBool());
+            QCOMPARE(chosen.takeLast().first().toString(), u"Two"_s);
+        }
+        open();
+        window.press(Qt::Key_Down);
+        window.press(Qt::Key_Escape);
+        QTRY_VERIFY(!window.value("opened").toBool());
+        QVERIFY(chosen.isEmpty());
+    }
+
     // Every control that is pressed.
 
     void controls_data()
