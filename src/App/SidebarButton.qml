@@ -84,6 +84,8 @@ T.TabButton {
             anchors.verticalCenter: parent.verticalCenter
             text: control.text
             font: control.font
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
             color: control.current ? Theme.onAccent : Theme.textPrimary
             elide: Text.ElideRight
             textFormat: Text.PlainText

@@ -25,7 +25,7 @@ GlassCard {
     property bool sweeps: true
 
     implicitHeight: column.implicitHeight + 2 * padding
-    padding: 20
+    padding: Theme.pagePadding
     Accessible.role: Accessible.StaticText
     Accessible.name: title
     Accessible.description: detail === "" ? value : value + ", " + detail
@@ -71,8 +71,12 @@ GlassCard {
         Item { width: 1; height: 8 }
         PlainLabel {
             width: parent.width
+            height: 22 // whatever script it is in, so that the cards stay of one height
             text: root.title
             font: Typo.headline
+            // Long words of some languages are set smaller rather than cut.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 11
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
             Accessible.ignored: true
@@ -80,7 +84,7 @@ GlassCard {
         PlainLabel {
             width: parent.width
             // Two lines are kept free, so that no card jumps when its detail grows.
-            height: 30
+            height: 36
             text: root.detail
             font: Typo.small
             color: Theme.textSecondary

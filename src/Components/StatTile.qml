@@ -108,6 +108,8 @@ T.AbstractButton {
                 Text {
                     width: parent.width
                     text: root.title
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 11
                     color: Theme.textPrimary
                     font: Typo.headline
                     elide: Text.ElideRight
@@ -117,6 +119,8 @@ T.AbstractButton {
                 Text {
                     width: parent.width
                     text: root.subtitle
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 11
                     color: Theme.textSecondary
                     font: Typo.caption
                     elide: Text.ElideRight
