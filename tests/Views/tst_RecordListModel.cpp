@@ -89,7 +89,7 @@ private:
     QList<Item> m_items;
 };
 
-/// Some of the keys below `keys`, each once, in an order of the seed's own.
+/// Some of the keys below `keys`, each once, in some order.
 QList<Item> randomItems(std::mt19937 &random, int keys)
 {
     QList<Item> items;
