@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Services/Sha256.h"
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 
 namespace {
@@ -23,6 +24,8 @@ Sha256::Sha256()
 Sha256::~Sha256()
 {
     EVP_MD_free(m_algorithm);
+    // A pool's thread may still be on its way out when the program ends: what the library keeps for it goes now.
+    OPENSSL_thread_stop();
 }
 
 Sha256::Run::Run(const Sha256 &algorithm)
