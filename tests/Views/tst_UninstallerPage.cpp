@@ -109,7 +109,7 @@ void tst_UninstallerPage::countsApplications()
     qint64 sum = 0;
     for (const InstalledApp &app : state.apps())
         sum += app.bundleSize.value_or(0);
-    QVERIFY(sum >= count * 100'000);
+    QVERIFY(sum >= qint64{count} * 100'000);
     QCOMPARE(page.subtitle(), text.arg(Format::bytes(sum)));
 }
 
