@@ -12,6 +12,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -160,9 +161,15 @@ TrashResult trashMany(const Platform &platform, const QList<TrashService::Item> 
             outcomes[at] = std::exchange(run.result(), {});
         }
     };
-    std::thread second(work, 1);
+    std::thread second;
+    try {
+        second = std::thread(work, 1);
+    } catch (const std::system_error &) {
+        work(1); // the system has no thread to spare: one after the other, then
+    }
     work(0);
-    second.join();
+    if (second.joinable())
+        second.join();
 
     TrashResult all;
     for (const TrashResult &outcome : outcomes)
