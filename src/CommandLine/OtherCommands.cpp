@@ -24,6 +24,7 @@ QCoro::Task<> pause(SessionPointer session, std::chrono::milliseconds time)
 {
     QTimer timer;
     timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer); // a coarse one may end early
     timer.start(session->isInterrupted() ? std::chrono::milliseconds{0} : time);
     QObject::connect(&session->interruption(), &Interruption::interrupted, &timer, [&timer] { timer.start(0); });
     co_await timer;

@@ -71,8 +71,11 @@ void tst_StartupPage::scansOnceWhenItAppears()
     page.appeared();
     QVERIFY(!page.loading());
     QCOMPARE(loading.count(), 2);
-    page.refreshItems();
-    QVERIFY(page.loading());
+    {
+        const StateFixture::Held held(f);
+        page.refreshItems();
+        QVERIFY(page.loading());
+    }
     QTRY_VERIFY(!page.loading());
 }
 

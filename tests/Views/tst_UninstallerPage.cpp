@@ -189,8 +189,8 @@ void tst_UninstallerPage::selectsAnApplicationWhoseSizeIsUnknown()
     const FileURL bundle = f.app("Editor");
     AppState &state = f.make();
     UninstallerPage page(state, f.actions);
+    QObject::connect(&state, &AppState::appsChanged, &state, &AppState::stopScans); // before anything is measured
     StateFixture::wait(state.scanApps());
-    state.stopScans(); // before anything is measured
     QCOMPARE(at(page, 0, "sizeText").toString(), u"Calculating…"_s);
     page.toggle(ItemId::of(bundle));
     QVERIFY(at(page, 0, "selected").toBool() && page.canRemove());
@@ -521,11 +521,18 @@ void tst_UninstallerPage::keepsRowsWhileDetailsArrive()
     AppState &state = f.make();
     UninstallerPage page(state, f.actions);
     const QAbstractItemModelTester tester(page.apps(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-    StateFixture::wait(state.scanApps());
     QSignalSpy resets(page.apps(), &QAbstractItemModel::modelReset);
     QSignalSpy inserted(page.apps(), &QAbstractItemModel::rowsInserted);
     QSignalSpy touched(page.apps(), &QAbstractItemModel::dataChanged);
+    const auto forget = [&] {
+        for (QSignalSpy *spy : {&resets, &inserted, &touched})
+            spy->clear();
+    };
+    // Only what follows the list counts.
+    QObject::connect(&state, &AppState::appsChanged, &page, forget, Qt::SingleShotConnection);
+    StateFixture::wait(state.scanApps());
     QTRY_VERIFY(!state.appDetailsLoading());
+    QCOMPARE(page.apps()->rowCount(), 3);
     QCOMPARE(resets.count() + inserted.count(), 0);
     QCOMPARE(touched.count(), 3); // each row once
     for (const QList<QVariant> &range : std::as_const(touched))
