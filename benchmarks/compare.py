@@ -38,7 +38,7 @@ class Scratch:
     """The folder that everything happens in. Nothing outside of it is written, and no real home is seen."""
 
     def __init__(self, path, need, keep):
-        self.path, self.keep = os.path.realpath(path), keep
+        self.path, self.keep, self.aside = os.path.realpath(path), keep, 0
         if os.path.lexists(path):
             if not os.path.exists(os.path.join(path, MARK)):
                 raise Trouble(f"{path} exists and was not made by this script.")
@@ -59,6 +59,14 @@ class Scratch:
         if not self.keep:
             shutil.rmtree(self.path)
 
+    def put_aside(self, path):
+        """Out of the way, but not removed before the end: ext4 makes new files slowly for minutes after it has removed
+        many, which would be added to everybody's time."""
+        if os.path.lexists(path):
+            os.makedirs(self.folder("aside"), exist_ok=True)
+            self.aside += 1
+            os.rename(path, self.folder("aside", str(self.aside)))
+
     def home(self, contender):
         """The home of one contender, as the environment of a run. Each keeps its own, as people do: what a first start
         writes down belongs to the round that warms up. Its Trash is empty every time."""
@@ -68,7 +76,7 @@ class Scratch:
                   "XDG_RUNTIME_DIR": f"{home}/.run", "TMPDIR": f"{home}/.tmp"}
         for place in places.values():
             os.makedirs(place, mode=0o700, exist_ok=True)
-        shutil.rmtree(os.path.join(places["XDG_DATA_HOME"], "Trash"), ignore_errors=True)
+        self.put_aside(os.path.join(places["XDG_DATA_HOME"], "Trash"))
         return {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "TZ": "UTC", **places}
 
 
@@ -94,7 +102,7 @@ class Runner:
         self.environment = self.scratch.home(contender.name)
         if work.consumes:
             copy = self.scratch.folder("copy")
-            shutil.rmtree(copy, ignore_errors=True)
+            self.scratch.put_aside(copy)
             subprocess.run(["cp", "-a", tree, copy], check=True)
             tree = copy
         if self.settles:
@@ -357,10 +365,13 @@ def main():
     chosen = [work for work in works.all_works(os.path.abspath(arguments.brisko), os.path.abspath(arguments.helpers),
                                                scale)
               if wanted(arguments, work.name)]
-    spaces = [work.space for work in chosen]
+    # What is consumed stays until the end: the tree, and a copy a run.
+    stays = sum(work.space(scale) * (1 + len(work.contenders) * (1 + arguments.rounds))
+                for work in chosen if work.consumes)
+    spaces = [work.space for work in chosen if not work.consumes]
     if wanted(arguments, "scrolling"):
         spaces += [space for _, _, space in SCROLLED.values()]
-    need = max((space(scale) for space in spaces), default=0)
+    need = stays + max((space(scale) for space in spaces), default=0)
     try:
         scratch = Scratch(arguments.scratch, need, arguments.keep)
         try:

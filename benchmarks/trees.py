@@ -144,7 +144,7 @@ def trash_files(root, scale):
 
 
 def trash_files_space(scale):
-    return 2 * scale.trash_files * 3 * BLOCK  # the tree, and the run's copy with its records
+    return scale.trash_files * 3 * BLOCK  # with a record each
 
 
 def same_names(root, scale):
@@ -156,7 +156,7 @@ def same_names(root, scale):
 
 
 def same_names_space(scale):
-    return 2 * scale.same_names * 4 * BLOCK
+    return scale.same_names * 4 * BLOCK
 
 
 def many_large(root, scale):

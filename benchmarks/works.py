@@ -163,6 +163,11 @@ def to_trash(brisko):
 def all_works(brisko, helpers, scale):
     measure = os.path.join(helpers, "bench_measure")
     return [
+        # First, because removing the trees of the others would slow them down.
+        Work("trash", f"{scale.trash_files:,} files to the Trash", trees.trash_files, trees.trash_files_space, 0.50, to_trash(brisko),
+             consumes=True),
+        Work("names", f"{scale.same_names:,} of one name to the Trash", trees.same_names, trees.same_names_space, 0.50,
+             to_trash(brisko), consumes=True),
         Work("small", "duplicates, small files", trees.small_files, trees.small_files_space, 0.70, duplicates(brisko),
              cold_limit=0.75, reduced=count_in_groups),
         Work("large", "duplicates, large files", trees.large_files, trees.large_files_space, 0.75, duplicates(brisko),
@@ -170,10 +175,6 @@ def all_works(brisko, helpers, scale):
         Work("walk", "large-file walk", trees.walk_tree, trees.walk_tree_space, 0.65, large_files(brisko),
              cold_limit=0.50),
         Work("sizes", "sizes of a tree", trees.walk_tree, trees.walk_tree_space, 0.65, sizes(measure)),
-        Work("trash", f"{scale.trash_files:,} files to the Trash", trees.trash_files, trees.trash_files_space, 0.50, to_trash(brisko),
-             consumes=True),
-        Work("names", f"{scale.same_names:,} of one name to the Trash", trees.same_names, trees.same_names_space, 0.50,
-             to_trash(brisko), consumes=True),
     ]
 
 
