@@ -4,7 +4,6 @@
 #include <QHashFunctions>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <map>
 
@@ -47,14 +46,12 @@ private:
 class RangeCompare
 {
 public:
-    RangeCompare(Context &context, std::span<Item> items, qint64 size)
+    RangeCompare(Context &context, std::span<Item> items)
         : m_context(context)
         , m_items(items)
         , m_ahead(items.size())
+        , m_scratch(context.scratch)
     {
-        const auto block = static_cast<size_t>(std::min(size, kBlock));
-        for (auto &buffer : m_buffers)
-            buffer = std::make_unique_for_overwrite<char[]>(block);
     }
 
     /// The classes of items that are equal from `from` to `to`; items alone in theirs are marked as out.
@@ -94,7 +91,7 @@ private:
 
     void place(int item, qint64 at, qint64 size, std::vector<Class> &found, Class &later)
     {
-        char *scratch = m_buffers[found.size()].get();
+        char *scratch = buffer(found.size());
         Item &what = m_items[static_cast<size_t>(item)];
         if (!m_ahead[static_cast<size_t>(item)].read(m_context, *what.file, scratch, size, at)) {
             what.failed = true;
@@ -102,16 +99,18 @@ private:
             return;
         }
         for (size_t known = 0; known < found.size(); ++known) {
-            if (std::memcmp(m_buffers[known].get(), scratch, static_cast<size_t>(size)) == 0) {
+            if (std::memcmp(buffer(known), scratch, static_cast<size_t>(size)) == 0) {
                 found[known].push_back(item);
                 return;
             }
         }
-        if (found.size() + 1 < m_buffers.size())
+        if (found.size() + 1 < m_scratch.bytes().size() / kBlock)
             found.push_back({item});
         else
             later.push_back(item);
     }
+
+    char *buffer(size_t number) const { return m_scratch.bytes().subspan(number * kBlock, kBlock).data(); }
 
     Class stillIn(const Class &one) const
     {
@@ -136,7 +135,7 @@ private:
     Context &m_context;
     std::span<Item> m_items;
     std::vector<Ahead> m_ahead;
-    std::array<std::unique_ptr<char[]>, 4> m_buffers;
+    const ScratchMemory::Block m_scratch; // room for some blocks, one after the other
 };
 
 /// The classes of items that share a class in both.
@@ -171,7 +170,7 @@ std::vector<std::vector<int>> BlockCompare::equalItems(Context &context, std::sp
     // Files that differ late mostly differ at the very end, so the last block comes first.
     const qint64 tail = (size - 1) / kBlock * kBlock;
     if (tail > 0)
-        classes = RangeCompare(context, items, size).run(std::move(classes), tail, size);
+        classes = RangeCompare(context, items).run(std::move(classes), tail, size);
     const qint64 end = tail > 0 ? tail : size;
     const auto ranges = static_cast<int>((end + kRange - 1) / kRange);
     std::vector<std::vector<Class>> found(static_cast<size_t>(ranges));
@@ -179,7 +178,7 @@ std::vector<std::vector<int>> BlockCompare::equalItems(Context &context, std::sp
         context.inParallel(ranges, [&](int range) {
             const qint64 from = range * kRange;
             found[static_cast<size_t>(range)] =
-                RangeCompare(context, items, size).run(classes, from, std::min(end, from + kRange));
+                RangeCompare(context, items).run(classes, from, std::min(end, from + kRange));
         });
     }
     for (const std::vector<Class> &one : found)
@@ -193,14 +192,15 @@ std::vector<std::vector<int>> BlockCompare::equalItems(Context &context, std::sp
 
 std::optional<size_t> BlockCompare::roughHash(Context &context, const OpenFile &file, qint64 from, qint64 to)
 {
-    const auto block = std::make_unique_for_overwrite<char[]>(static_cast<size_t>(std::min(to - from, kBlock)));
+    const ScratchMemory::Block scratch(context.scratch);
+    char *block = scratch.bytes().data();
     size_t hash = context.seed;
     Ahead ahead;
     for (qint64 at = from; at < to; at += kBlock) {
         const qint64 size = std::min(kBlock, to - at);
-        if (context.isCancelled() || !ahead.read(context, file, block.get(), size, at))
+        if (context.isCancelled() || !ahead.read(context, file, block, size, at))
             return std::nullopt;
-        hash = qHashBits(block.get(), static_cast<size_t>(size), hash);
+        hash = qHashBits(block, static_cast<size_t>(size), hash);
     }
     return hash;
 }

@@ -2,6 +2,7 @@
 #include "Services/CompareContext.h"
 
 #include "Platform/FileSystem.h"
+#include "Services/DuplicateScanService.h"
 #include "Services/FileDigest.h"
 
 #include <QRandomGenerator>
@@ -23,6 +24,7 @@ Context::Context(const std::vector<Candidate> &candidates, const Limits &limits,
     , contents(qint64{limits.readers} * 2 * kSlice *
                kPrefix) // twice what readers hold between them, so none waits forever
     , stored(limits.memory)
+    , scratch(static_cast<size_t>(DuplicateScanService::kChunk))
     , seed(static_cast<size_t>(QRandomGenerator::system()->generate64()))
     , m_candidates(candidates)
     , m_limits(limits)
@@ -174,10 +176,12 @@ QByteArray Context::digestOf(QByteArrayView content)
 
 std::optional<QByteArray> Context::digestOf(const OpenFile &file)
 {
-    return FileDigest::ofOpenFile(m_sha, file.descriptor.get(), file.stamp, m_cancel, [this](qint64 bytes) {
+    const ScratchMemory::Block chunk(scratch);
+    const auto count = [this](qint64 bytes) {
         m_bytesRead.fetch_add(bytes, std::memory_order_relaxed);
         m_bytesHashed.fetch_add(bytes, std::memory_order_relaxed);
-    });
+    };
+    return FileDigest::ofOpenFile(m_sha, file.descriptor.get(), file.stamp, chunk.bytes(), m_cancel, count);
 }
 
 void Context::startLong(WorkQueue::Work work)

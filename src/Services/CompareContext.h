@@ -5,6 +5,7 @@
 #include "Platform/FileReading.h"
 #include "Services/Budget.h"
 #include "Services/DuplicateCompare.h"
+#include "Services/ScratchMemory.h"
 #include "Services/Sha256.h"
 #include "Services/WorkQueue.h"
 
@@ -90,11 +91,12 @@ public:
     [[nodiscard]] std::vector<EqualSet> takeResults();
     [[nodiscard]] Cost cost() const;
 
-    Budget descriptors; // for files that readers opened; waited for only by who holds none
-    Budget kept;        // for files that stay open between two slices; never waited for
-    Budget contents;    // bytes of contents on their way to a worker; waited for by readers alone
-    Budget stored;      // bytes of contents that stay between two slices; never waited for
-    const size_t seed;  // of the hashes that sort files beforehand
+    Budget descriptors;    // for files that readers opened; waited for only by who holds none
+    Budget kept;           // for files that stay open between two slices; never waited for
+    Budget contents;       // bytes of contents on their way to a worker; waited for by readers alone
+    Budget stored;         // bytes of contents that stay between two slices; never waited for
+    ScratchMemory scratch; // blocks of as much as is hashed at a time
+    const size_t seed;     // of the hashes that sort files beforehand
 
 private:
     [[nodiscard]] const Candidate &candidate(quint32 name) const { return m_candidates[m_order[name]]; }

@@ -6,18 +6,27 @@
 #include <algorithm>
 #include <memory>
 
+using DuplicateScanService::kChunk;
+
 std::optional<QByteArray> FileDigest::ofOpenFile(const Sha256 &algorithm, int descriptor,
                                                  const FileReading::Stamp &stamp, const CancelToken &cancel,
                                                  const Hashed &hashed)
 {
-    const qint64 largest = std::min(DuplicateScanService::kChunk, stamp.size);
-    const auto chunk = std::make_unique_for_overwrite<char[]>(static_cast<size_t>(largest));
+    const auto size = static_cast<size_t>(std::min(kChunk, stamp.size));
+    const auto chunk = std::make_unique_for_overwrite<char[]>(size);
+    return ofOpenFile(algorithm, descriptor, stamp, std::span(chunk.get(), size), cancel, hashed);
+}
+
+std::optional<QByteArray> FileDigest::ofOpenFile(const Sha256 &algorithm, int descriptor,
+                                                 const FileReading::Stamp &stamp, std::span<char> chunk,
+                                                 const CancelToken &cancel, const Hashed &hashed)
+{
     Sha256::Run run(algorithm);
     for (qint64 done = 0; done < stamp.size;) {
-        const qint64 size = std::min(largest, stamp.size - done);
-        if (cancel.isCancelled() || FileReading::readAt(descriptor, chunk.get(), size, done) != size)
+        const qint64 size = std::min(kChunk, stamp.size - done);
+        if (cancel.isCancelled() || FileReading::readAt(descriptor, chunk.data(), size, done) != size)
             return std::nullopt;
-        run.add({chunk.get(), size});
+        run.add({chunk.data(), size});
         if (hashed)
             hashed(size);
         done += size;

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 
 /// The digest of a file's whole content.
 namespace FileDigest {
@@ -21,5 +22,9 @@ using Hashed = std::function<void(qint64)>;
 [[nodiscard]] std::optional<QByteArray> ofOpenFile(const Sha256 &algorithm, int descriptor,
                                                    const FileReading::Stamp &stamp, const CancelToken &cancel,
                                                    const Hashed &hashed = {});
+/// The same, read into `chunk`, which has room for 1 MiB.
+[[nodiscard]] std::optional<QByteArray> ofOpenFile(const Sha256 &algorithm, int descriptor,
+                                                   const FileReading::Stamp &stamp, std::span<char> chunk,
+                                                   const CancelToken &cancel, const Hashed &hashed = {});
 
 } // namespace FileDigest
