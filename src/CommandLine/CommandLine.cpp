@@ -169,4 +169,13 @@ int explainNoWindow()
     return std::to_underlying(ExitStatus::wrongUse);
 }
 
+int explainMissingWindow(const char *reason)
+{
+    PosixTerminal terminal;
+    Printer(&terminal, Stream::error)
+        .text(u"brisko: the window cannot be loaded: "_s + QString::fromLocal8Bit(reason))
+        .end();
+    return std::to_underlying(ExitStatus::failed);
+}
+
 } // namespace CommandLine

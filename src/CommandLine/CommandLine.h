@@ -21,5 +21,7 @@ namespace CommandLine {
 
 /// What a start without a command comes to where there is no window to open: a line that says what to do instead.
 [[nodiscard]] int explainNoWindow();
+/// Says on standard error why the part that draws cannot be loaded, in the system's words; answers the exit status.
+[[nodiscard]] int explainMissingWindow(const char *reason);
 
 } // namespace CommandLine
