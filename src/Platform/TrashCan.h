@@ -4,6 +4,8 @@
 #include "Models/FileURL.h"
 #include "Support/CancelToken.h"
 
+#include <QList>
+
 #include <expected>
 #include <memory>
 #include <system_error>
@@ -14,6 +16,9 @@ class TrashBatch
 {
 public:
     virtual ~TrashBatch() = default;
+    /// Tells which items are about to be moved, in this order, so that what they need can be made ready beforehand. A
+    /// promise that need not be kept.
+    virtual void expect(const QList<FileURL> &items) { Q_UNUSED(items) }
     /// Moves one item, a folder with all its content, to the Trash and answers where it lies now. A link is moved as a
     /// link. On an error the item is still whole and in its place.
     [[nodiscard]] virtual std::expected<FileURL, std::error_code> moveToTrash(const FileURL &item) = 0;

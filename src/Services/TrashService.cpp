@@ -5,17 +5,9 @@
 #include "Platform/Platform.h"
 #include "Services/RemovalGuard.h"
 
-#include <QHash>
-#include <QSet>
-
-#include <algorithm>
-#include <array>
 #include <memory>
-#include <optional>
 #include <system_error>
-#include <thread>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -32,6 +24,15 @@ public:
 
     [[nodiscard]] bool isStopped() const { return m_cancel.isCancelled(); }
     [[nodiscard]] TrashResult &result() { return m_result; }
+
+    void expect(const QList<TrashService::Item> &items)
+    {
+        QList<FileURL> urls;
+        urls.reserve(items.size());
+        for (const TrashService::Item &item : items)
+            urls.append(item.url);
+        m_batch->expect(urls);
+    }
 
     void trash(const TrashService::Item &item)
     {
@@ -109,73 +110,7 @@ private:
     TrashResult m_result;
 };
 
-constexpr qsizetype kManyItems = 512; // below, a second thread costs more than it gives
-constexpr size_t kWorkers = 2;        // the folders of a Trash take one change each at a time
-
-/// Whether no item lies within another, so that their order does not matter.
-bool areApart(const QList<TrashService::Item> &items)
-{
-    QSet<FileURL> all;
-    all.reserve(items.size());
-    for (const TrashService::Item &item : items)
-        all.insert(item.url);
-    if (all.size() != items.size())
-        return false;
-    QHash<FileURL, bool> clear; // folders, and whether neither they nor what holds them is an item
-    const auto isClear = [&](auto &self, const FileURL &folder) -> bool {
-        if (const auto known = clear.constFind(folder); known != clear.cend())
-            return *known;
-        const bool answer = !all.contains(folder) && (folder == FileURL::root() || self(self, folder.parent()));
-        clear.insert(folder, answer);
-        return answer;
-    };
-    return std::ranges::all_of(items, [&](const TrashService::Item &item) {
-        return item.whole == Whole::No && item.url != FileURL::root() && isClear(isClear, item.url.parent());
-    });
-}
-
-void append(TrashResult &all, const TrashResult &more)
-{
-    all.removed += more.removed;
-    all.failed += more.failed;
-    all.notReached += more.notReached;
-}
-
-/// Two threads move what has nothing to do with each other; items of one name stay with one, which numbers them. The
-/// answer is in the order of the items.
-TrashResult trashMany(const Platform &platform, const QList<TrashService::Item> &items, const CancelToken &cancel)
-{
-    std::vector<TrashResult> outcomes(static_cast<size_t>(items.size()));
-    // They end one after the other: what a batch does last is the Trash's as a whole.
-    std::array<std::optional<Run>, kWorkers> runs;
-    const auto work = [&](size_t worker) {
-        Run &run = runs.at(worker).emplace(platform, cancel);
-        for (size_t at = 0; at < outcomes.size(); ++at) {
-            const TrashService::Item &item = items.at(static_cast<qsizetype>(at));
-            if (qHash(item.url.name()) % kWorkers != worker)
-                continue;
-            if (run.isStopped())
-                run.result().notReached.append(item.url);
-            else
-                run.trash(item);
-            outcomes[at] = std::exchange(run.result(), {});
-        }
-    };
-    std::thread second;
-    try {
-        second = std::thread(work, 1);
-    } catch (const std::system_error &) {
-        work(1); // the system has no thread to spare: one after the other, then
-    }
-    work(0);
-    if (second.joinable())
-        second.join();
-
-    TrashResult all;
-    for (const TrashResult &outcome : outcomes)
-        append(all, outcome);
-    return all;
-}
+constexpr qsizetype kManyItems = 256; // worth being made ready for
 
 } // namespace
 
@@ -183,9 +118,9 @@ TrashResult TrashService::trash(const Platform &platform, const QList<Item> &ite
 {
     if (items.isEmpty())
         return {};
-    if (items.size() >= kManyItems && areApart(items))
-        return trashMany(platform, items, cancel);
     Run run(platform, cancel);
+    if (items.size() >= kManyItems)
+        run.expect(items);
     for (const Item &item : items) {
         if (run.isStopped())
             run.result().notReached.append(item.url);

@@ -9,7 +9,6 @@
 #include "Platform/Linux/TreeRemoval.h"
 #include "Platform/Places.h"
 
-#include <QDateTime>
 #include <QHash>
 
 #include <fcntl.h>
@@ -17,8 +16,9 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <ctime>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -40,25 +40,6 @@ struct Parent {
     bool isTrashKnown = false;
 };
 
-/// The seconds of local time as records carry them.
-class Clock
-{
-public:
-    const QByteArray &text()
-    {
-        const time_t now = ::time(nullptr);
-        if (now != m_second || m_text.isEmpty()) {
-            m_second = now;
-            m_text = QDateTime::fromSecsSinceEpoch(now).toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")).toLatin1();
-        }
-        return m_text;
-    }
-
-private:
-    time_t m_second = 0;
-    QByteArray m_text;
-};
-
 class Batch : public TrashBatch
 {
 public:
@@ -74,6 +55,7 @@ public:
     Batch(const Batch &) = delete;
     Batch &operator=(const Batch &) = delete;
 
+    void expect(const QList<FileURL> &items) override { m_expected.assign(items.begin(), items.end()); }
     std::expected<FileURL, std::error_code> moveToTrash(const FileURL &item) override;
     std::expected<void, std::error_code> removeForGood(const FileURL &item, const CancelToken &cancel) override;
 
@@ -99,7 +81,7 @@ private:
     QHash<QByteArray, Opened> m_tops; // by the mount's folder
     std::optional<CopyStage> m_stage;
     Parent m_parent;
-    Clock m_clock;
+    std::vector<FileURL> m_expected; // what comes, until the first of it goes to the home folder's Trash
 };
 
 const QList<Mount> &Batch::mounts()
@@ -196,12 +178,15 @@ std::expected<FileURL, std::error_code> Batch::moveToTrash(const FileURL &item)
 std::expected<FileURL, std::error_code> Batch::rename(TrashFolder &trash, const FileURL &item, const QByteArray &path,
                                                       const ItemStatus &status)
 {
-    const TrashFolder::Origin origin{.folder = m_parent.folder.get(),
+    if (!m_expected.empty() && m_home && &trash == m_home->value_or(nullptr))
+        trash.expect(std::exchange(m_expected, {}));
+    const TrashFolder::Origin origin{.item = item,
+                                     .folder = m_parent.folder.get(),
                                      .name = item.name(),
                                      .wishedName = item.name(),
                                      .recordedPath = path,
                                      .isFolder = status.isFolder()};
-    const auto name = trash.take(origin, m_clock.text(), m_environment.renames);
+    const auto name = trash.take(origin, m_environment.renames);
     if (!name)
         return std::unexpected(name.error());
     return trash.itemNamed(*name);
@@ -250,12 +235,13 @@ std::error_code Batch::admitCopy(TrashFolder &trash, const TreeCopy::Survey &sur
     const QByteArray staged = m_stage->newName();
     if (const std::error_code failure = TreeCopy::copy(survey.top, m_parent.folder.get(), m_stage->folder(), staged))
         return failure;
-    const auto name = trash.take({.folder = m_stage->folder(),
+    const auto name = trash.take({.item = item,
+                                  .folder = m_stage->folder(),
                                   .name = staged,
                                   .wishedName = item.name(),
                                   .recordedPath = item.path(),
                                   .isFolder = survey.top.status.isFolder()},
-                                 m_clock.text(), m_environment.renames);
+                                 m_environment.renames);
     if (!name) {
         std::ignore = TreeRemoval::remove(m_stage->folder(), staged, CancelToken());
         return name.error();

@@ -4,6 +4,7 @@
 #include "Models/CheckedSum.h"
 #include "Platform/FileSystem.h"
 #include "Platform/Linux/TrashNames.h"
+#include "Platform/Linux/WholeWrite.h"
 
 #include <fcntl.h>
 #include <sys/statvfs.h>
@@ -50,19 +51,6 @@ bool isClosedToOthers(const Descriptor &folder, uid_t user)
 {
     const auto status = statusAt(folder.get(), "");
     return status && status->isFolder() && status->owner == user && (status->mode & 0777) == kPrivate;
-}
-
-std::error_code writeWhole(int file, QByteArrayView text)
-{
-    while (!text.isEmpty()) {
-        const ssize_t written = ::write(file, text.data(), static_cast<size_t>(text.size()));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return written < 0 ? lastError() : std::make_error_code(std::errc::no_space_on_device);
-        text = text.sliced(written);
-    }
-    return {};
 }
 
 /// What a folder and all below it take on the disk, each inode once.
@@ -185,69 +173,47 @@ std::expected<TrashFolder, std::error_code> TrashFolder::from(Descriptor root, u
     };
     constexpr unsigned long usual = 255;
     const bool known = ::fstatvfs(trash.m_info.get(), &limits) == 0 && limits.f_namemax > 0;
-    trash.m_longestItemName =
-        TrashNames::limitFor(static_cast<qsizetype>(known ? std::min(limits.f_namemax, usual) : usual));
+    const auto longest = static_cast<qsizetype>(known ? std::min(limits.f_namemax, usual) : usual);
+    trash.m_records =
+        std::make_unique<TrashRecords>(trash.m_info.get(), trash.m_files.get(), TrashNames::limitFor(longest));
     return trash;
 }
 
-std::expected<QByteArray, std::error_code> TrashFolder::take(const Origin &origin, const QByteArray &date,
-                                                             Renames renames)
+void TrashFolder::expect(std::vector<FileURL> items)
 {
-    const QByteArray text = TrashNames::record(origin.recordedPath, date);
-    const auto named = [&](quint64 number) {
-        return TrashNames::numbered(origin.wishedName, number, m_longestItemName);
-    };
-    quint64 number = m_next.value(origin.wishedName, 1);
+    m_ahead = std::make_unique<RecordsAhead>(*m_records, m_status.identity, std::move(items));
+}
+
+std::expected<QByteArray, std::error_code> TrashFolder::take(const Origin &origin, Renames renames)
+{
+    auto ready = m_ahead ? m_ahead->take(origin.item) : std::nullopt;
     for (int tries = 0; tries < kMostTries; ++tries) {
-        const QByteArray name = named(number);
-        const QByteArray recordName = name + TrashNames::kRecordEnding.toByteArray();
-        std::error_code failure = writeRecord(recordName, text);
+        const auto name = ready ? std::expected<QByteArray, std::error_code>(*std::exchange(ready, std::nullopt))
+                                : m_records->claim(origin.wishedName, origin.recordedPath);
+        if (!name)
+            return name;
+        const std::error_code failure = moveIn(origin, *name, renames);
         if (!failure) {
-            failure = moveIn(origin, name, renames);
-            if (!failure) {
-                m_next.insert(origin.wishedName, number + 1);
-                noteTaken(origin, name, recordName);
-                return name;
-            }
-            ::unlinkat(m_info.get(), recordName.constData(), 0);
+            noteTaken(origin, *name);
+            return name;
         }
-        if (failure != std::errc::file_exists)
+        if (failure != std::errc::file_exists) {
+            m_records->drop(origin.wishedName, *name);
             return std::unexpected(failure);
-        number = TrashNames::firstFree(number, [&](quint64 other) { return isTaken(named(other)); });
+        }
+        m_records->dropTaken(origin.wishedName, *name);
     }
     return refusal(std::errc::file_exists);
 }
 
-void TrashFolder::noteTaken(const Origin &origin, const QByteArray &name, const QByteArray &recordName)
+void TrashFolder::noteTaken(const Origin &origin, const QByteArray &name)
 {
     m_hasTaken = true;
     if (!origin.isFolder)
         return;
+    const QByteArray recordName = name + TrashNames::kRecordEnding.toByteArray();
     if (const auto record = statusAt(m_info.get(), recordName.constData()))
         m_added.append({.name = name, .size = 0, .recorded = record->modified.tv_sec});
-}
-
-bool TrashFolder::isTaken(const QByteArray &name) const
-{
-    const QByteArray recordName = name + TrashNames::kRecordEnding.toByteArray();
-    return ::faccessat(m_info.get(), recordName.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0 ||
-           ::faccessat(m_files.get(), name.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
-}
-
-/// On an error no record is left.
-std::error_code TrashFolder::writeRecord(const QByteArray &recordName, const QByteArray &text) const
-{
-    Descriptor file(
-        ::openat(m_info.get(), recordName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (!file.isOpen())
-        return lastError();
-    std::error_code failure = writeWhole(file.get(), text);
-    // Some file systems tell only now that there was no room.
-    if (::close(file.release()) != 0 && !failure)
-        failure = lastError();
-    if (failure)
-        ::unlinkat(m_info.get(), recordName.constData(), 0);
-    return failure;
 }
 
 std::error_code TrashFolder::moveIn(const Origin &origin, const QByteArray &name, Renames renames) const
@@ -289,6 +255,7 @@ void TrashFolder::forget(const QByteArray &name)
 
 void TrashFolder::finish()
 {
+    m_ahead.reset();
     if (!m_added.isEmpty() || m_hasForgotten)
         updateSizes();
     // Records and moves reach the disk together, however many there were.
@@ -318,7 +285,7 @@ void TrashFolder::updateSizes()
         ::openat(m_root.get(), draft.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!file.isOpen())
         return;
-    const bool isWritten = !writeWhole(file.get(), DirectorySizes::text(after)) && ::close(file.release()) == 0;
-    if (!isWritten || ::renameat(m_root.get(), draft.constData(), m_root.get(), "directorysizes") != 0)
+    const std::error_code failure = writeWholeAndClose(std::move(file), DirectorySizes::text(after));
+    if (failure || ::renameat(m_root.get(), draft.constData(), m_root.get(), "directorysizes") != 0)
         ::unlinkat(m_root.get(), draft.constData(), 0);
 }

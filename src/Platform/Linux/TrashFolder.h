@@ -5,14 +5,16 @@
 #include "Platform/Descriptor.h"
 #include "Platform/Linux/DirectorySizes.h"
 #include "Platform/Linux/ItemStatus.h"
+#include "Platform/Linux/RecordsAhead.h"
+#include "Platform/Linux/TrashRecords.h"
 
 #include <QByteArray>
-#include <QHash>
 #include <QList>
-#include <QSet>
 
 #include <expected>
+#include <memory>
 #include <system_error>
+#include <vector>
 
 /// How an item is moved without replacing anything.
 enum class Renames {
@@ -37,6 +39,7 @@ public:
 
     /// An entry of an open folder, and how it is to be recorded.
     struct Origin {
+        FileURL item; // as it was asked for
         int folder = -1;
         QByteArray name;         // what the entry is called there
         QByteArray wishedName;   // what it would be called here
@@ -44,9 +47,11 @@ public:
         bool isFolder = false;
     };
 
+    /// These items are about to be taken in this order, their paths recorded as they are: their records are written
+    /// ahead of their moves. Whatever does not come leaves nothing behind once this run is finished.
+    void expect(std::vector<FileURL> items);
     /// Writes the record, then moves the entry; answers its name here. On an error neither is left behind.
-    [[nodiscard]] std::expected<QByteArray, std::error_code> take(const Origin &origin, const QByteArray &date,
-                                                                  Renames renames);
+    [[nodiscard]] std::expected<QByteArray, std::error_code> take(const Origin &origin, Renames renames);
     /// Drops the record of an item that has just been removed for good, and its line among the sizes.
     void forget(const QByteArray &name);
 
@@ -62,11 +67,9 @@ public:
 private:
     TrashFolder() = default;
     [[nodiscard]] static std::expected<TrashFolder, std::error_code> from(Descriptor root, uid_t user, Missing missing);
-    [[nodiscard]] std::error_code writeRecord(const QByteArray &recordName, const QByteArray &text) const;
-    void noteTaken(const Origin &origin, const QByteArray &name, const QByteArray &recordName);
+    void noteTaken(const Origin &origin, const QByteArray &name);
     [[nodiscard]] std::error_code moveIn(const Origin &origin, const QByteArray &name, Renames renames) const;
     [[nodiscard]] std::error_code moveOntoPlaceholder(const Origin &origin, const QByteArray &name) const;
-    [[nodiscard]] bool isTaken(const QByteArray &name) const;
     void updateSizes();
 
     Descriptor m_root;
@@ -74,9 +77,9 @@ private:
     Descriptor m_info;
     FileURL m_place; // free of links
     ItemStatus m_status;
-    qsizetype m_longestItemName = 0;     // bytes
-    QHash<QByteArray, quint64> m_next;   // the next number to try for a name
     QList<DirectorySizes::Line> m_added; // folders taken in this run, without their sizes
     bool m_hasTaken = false;
     bool m_hasForgotten = false;
+    std::unique_ptr<TrashRecords> m_records; // of the open folders
+    std::unique_ptr<RecordsAhead> m_ahead;   // last: it writes records
 };
