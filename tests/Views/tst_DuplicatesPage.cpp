@@ -405,8 +405,11 @@ void tst_DuplicatesPage::removesWhatWasAskedAbout()
     page.remove();
     QVERIFY(ScratchTree::exists(asked));
     f.toggle(u"a3"_s);
-    f.state->acceptConfirm();
-    QVERIFY(page.isRemoving());
+    {
+        const StateFixture::Held held(f);
+        f.state->acceptConfirm();
+        QVERIFY(page.isRemoving());
+    }
     QTRY_VERIFY(!page.isRemoving());
     QVERIFY(!ScratchTree::exists(asked));
     QVERIFY(ScratchTree::exists(first) && ScratchTree::exists(later));

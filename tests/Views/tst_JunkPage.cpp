@@ -87,8 +87,11 @@ void tst_JunkPage::scansWhenItFirstAppears()
     Fixture f;
     f.cache("a");
     JunkPage &page = f.open();
-    page.appeared();
-    QVERIFY(f.state->junkLoading());
+    {
+        const StateFixture::Held held(f);
+        page.appeared();
+        QVERIFY(f.state->junkLoading());
+    }
     QTRY_VERIFY(!f.state->junkLoading());
     QCOMPARE(f.rows().count(), 1);
     QSignalSpy loading(f.state.get(), &AppState::junkLoadingChanged);
@@ -356,9 +359,12 @@ void tst_JunkPage::cleansWhatWasAskedAbout()
     page.clean();
     QVERIFY2(ScratchTree::exists(cache), "nothing goes before the question is answered");
     f.toggle(u"System Logs"_s); // too late for this question
-    f.state->acceptConfirm();
-    QVERIFY(page.isRemoving());
-    QCOMPARE(page.status(), u"Select categories to clean"_s);
+    {
+        const StateFixture::Held held(f);
+        f.state->acceptConfirm();
+        QVERIFY(page.isRemoving());
+        QCOMPARE(page.status(), u"Select categories to clean"_s);
+    }
     QTRY_VERIFY(!page.isRemoving());
     QVERIFY(!ScratchTree::exists(cache) && !ScratchTree::exists(download));
     QVERIFY(ScratchTree::exists(log));

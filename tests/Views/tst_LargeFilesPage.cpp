@@ -100,8 +100,11 @@ void tst_LargeFilesPage::scansWhenItFirstAppears()
     f.large("exactly", 100 * kMegabyte);
     f.large("less", 100 * kMegabyte - 1);
     LargeFilesPage &page = f.open();
-    page.appeared();
-    QVERIFY(page.isLoading());
+    {
+        const StateFixture::Held held(f);
+        page.appeared();
+        QVERIFY(page.isLoading());
+    }
     f.settleScan();
     QCOMPARE(f.rows().column("name"), QStringList{u"exactly"_s});
     QSignalSpy loading(f.state.get(), &AppState::largeFilesLoadingChanged);
