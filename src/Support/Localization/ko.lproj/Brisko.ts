@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>At least one copy is kept</source>
-        <translation>최소 한 개의 사본은 남겨 둡니다</translation>
+        <translation>사본을 최소 한 개는 남겨 둡니다</translation>
     </message>
     <message>
         <source>Choose a folder to scan for large files.</source>
@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
-        <translation>파일 내용의 해시를 계산하는 중입니다. 시간이 조금 걸릴 수 있습니다</translation>
+        <translation>파일 내용의 해시를 계산하는 중이며, 시간이 조금 걸릴 수 있습니다</translation>
     </message>
     <message>
         <source>Junk categories</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>Select copies to remove — at least one copy of each file is kept</source>
-        <translation>삭제할 사본을 선택하세요. 파일마다 최소 한 개의 사본은 남겨 둡니다.</translation>
+        <translation>삭제할 사본을 선택하세요. 각 파일의 사본은 최소 한 개 남겨 둡니다.</translation>
     </message>
     <message>
         <source>Select files to remove</source>
@@ -362,7 +362,7 @@
     </message>
     <message>
         <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
-        <translation>선택한 사본을 휴지통으로 이동합니다. 파일마다 원본 하나는 남겨 둡니다.</translation>
+        <translation>선택한 사본을 휴지통으로 이동합니다. 각 파일의 원본 하나는 남겨 둡니다.</translation>
     </message>
     <message>
         <source>Selected Files</source>
@@ -462,7 +462,7 @@
     </message>
     <message>
         <source>Remove %@?</source>
-        <translation>%@을(를) 삭제하시겠습니까?</translation>
+        <translation>‘%@’을(를) 삭제하시겠습니까?</translation>
     </message>
     <message>
         <source>This will move the plist file to Trash. You can re-enable it later from the original app.</source>
@@ -554,15 +554,15 @@
     </message>
     <message>
         <source>%lld item · %@ would be removed</source>
-        <translation>삭제될 항목 %lld개 · %@</translation>
+        <translation>삭제 대상 항목 %lld개 · %@</translation>
     </message>
     <message>
         <source>%lld items · %@ would be removed</source>
-        <translation>삭제될 항목 %lld개 · %@</translation>
+        <translation>삭제 대상 항목 %lld개 · %@</translation>
     </message>
     <message>
         <source>%lld items · %lld enabled</source>
-        <translation>항목 %lld개 · %lld개 활성</translation>
+        <translation>항목 %lld개 · 활성 %lld개</translation>
     </message>
     <message>
         <source>No junk found</source>
@@ -578,7 +578,7 @@
     </message>
     <message>
         <source>No applications found</source>
-        <translation>앱이 없습니다</translation>
+        <translation>찾은 앱이 없습니다</translation>
     </message>
     <message>
         <source>No startup items found</source>
@@ -642,7 +642,7 @@
     </message>
     <message>
         <source>Your Mac, Cleaner and Lighter</source>
-        <translation>더 깨끗하고 가벼운 Mac</translation>
+        <translation>Mac을 더 깨끗하고 가볍게</translation>
     </message>
     <message>
         <source>Free up space, remove junk, and keep your Mac running at its best.</source>
@@ -762,7 +762,7 @@
     </message>
     <message>
         <source>Press Scan to list startup items</source>
-        <translation>스캔하면 시작 항목이 여기에 표시됩니다</translation>
+        <translation>스캔하면 시작 항목 목록이 표시됩니다</translation>
     </message>
     <message>
         <source>No startup items yet</source>
@@ -774,7 +774,7 @@
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
-        <translation>항목 %lld개 · %lld개 활성</translation>
+        <translation>항목 %lld개 · 활성 %lld개</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -854,7 +854,7 @@
     </message>
     <message>
         <source>Contact Us</source>
-        <translation>문의하기</translation>
+        <translation>문의</translation>
     </message>
     <message>
         <source>Open Brisko</source>
@@ -882,7 +882,7 @@
     </message>
     <message>
         <source>Update Available</source>
-        <translation>업데이트가 있습니다</translation>
+        <translation>새 업데이트가 있습니다</translation>
     </message>
     <message>
         <source>Version %@</source>
