@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>At least one copy is kept</source>
-        <translation>至少保留一份副本</translation>
+        <translation>至少会保留一份副本</translation>
     </message>
     <message>
         <source>Choose a folder to scan for large files.</source>
@@ -158,7 +158,7 @@
     </message>
     <message>
         <source>Keep First</source>
-        <translation>保留首个</translation>
+        <translation>保留第一个</translation>
     </message>
     <message>
         <source>Large files</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>No duplicate files yet — press Scan to search</source>
-        <translation>尚无重复文件，点按“扫描”开始查找</translation>
+        <translation>尚未找到重复文件，点按“扫描”开始查找</translation>
     </message>
     <message>
         <source>No junk found yet</source>
@@ -178,7 +178,7 @@
     </message>
     <message>
         <source>No large files yet</source>
-        <translation>尚无大文件</translation>
+        <translation>尚未找到大文件</translation>
     </message>
     <message>
         <source>Original</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>Select copies to remove — at least one copy of each file is kept</source>
-        <translation>选择要移除的副本，每个文件至少保留一份</translation>
+        <translation>选择要移除的副本，每个文件至少会保留一份</translation>
     </message>
     <message>
         <source>Select files to remove</source>
@@ -402,7 +402,7 @@
     </message>
     <message>
         <source>Grant Access</source>
-        <translation>授予权限</translation>
+        <translation>授予访问权限</translation>
     </message>
     <message>
         <source>Uninstall %@?</source>
@@ -466,7 +466,7 @@
     </message>
     <message>
         <source>This will move the plist file to Trash. You can re-enable it later from the original app.</source>
-        <translation>plist 文件将移到废纸篓。以后可以从原应用中重新启用。</translation>
+        <translation>plist 文件将移到废纸篓。之后可以在原来的应用中重新启用此项目。</translation>
     </message>
     <message>
         <source>Type</source>
@@ -502,7 +502,7 @@
     </message>
     <message>
         <source>Can't reach the update server. Check your network and try again.</source>
-        <translation>无法连接更新服务器。请检查网络，然后重试。</translation>
+        <translation>无法连接到更新服务器。请检查网络，然后重试。</translation>
     </message>
     <message>
         <source>You're up to date!</source>
@@ -554,11 +554,11 @@
     </message>
     <message>
         <source>%lld item · %@ would be removed</source>
-        <translation>将移除 %lld 项 · %@</translation>
+        <translation>预计移除 %lld 项 · %@</translation>
     </message>
     <message>
         <source>%lld items · %@ would be removed</source>
-        <translation>将移除 %lld 项 · %@</translation>
+        <translation>预计移除 %lld 项 · %@</translation>
     </message>
     <message>
         <source>%lld items · %lld enabled</source>
@@ -770,7 +770,7 @@
     </message>
     <message>
         <source>Press Scan to find Launch Agents and Daemons</source>
-        <translation>扫描以查找启动代理和守护进程</translation>
+        <translation>扫描即可查找启动代理和启动守护进程</translation>
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
@@ -810,7 +810,7 @@
     </message>
     <message>
         <source>Duplicate Scan Folders</source>
-        <translation>重复文件扫描范围</translation>
+        <translation>查找重复文件的文件夹</translation>
     </message>
     <message>
         <source>Add Folder…</source>
@@ -898,7 +898,7 @@
     </message>
     <message>
         <source>The settings file was damaged. It is kept as %@.</source>
-        <translation>设置文件已损坏。损坏的文件保留为“%@”。</translation>
+        <translation>设置文件已损坏。损坏的文件已保留为“%@”。</translation>
     </message>
     <message>
         <source>Too large to copy to the Trash from another disk.</source>
