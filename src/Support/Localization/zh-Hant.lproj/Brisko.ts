@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>No duplicate files yet — press Scan to search</source>
-        <translation>尚無重複檔案，按一下「掃描」開始尋找</translation>
+        <translation>尚未找到重複檔案，按一下「掃描」開始尋找</translation>
     </message>
     <message>
         <source>No junk found yet</source>
@@ -174,11 +174,11 @@
     </message>
     <message>
         <source>No junk found — your Mac is clean</source>
-        <translation>找不到垃圾檔案，Mac 很乾淨</translation>
+        <translation>未找到垃圾檔案，Mac 很乾淨</translation>
     </message>
     <message>
         <source>No large files yet</source>
-        <translation>尚無大型檔案</translation>
+        <translation>尚未找到大型檔案</translation>
     </message>
     <message>
         <source>Original</source>
@@ -218,15 +218,15 @@
     </message>
     <message>
         <source>Select categories to clean</source>
-        <translation>選擇要清理的類別</translation>
+        <translation>選取要清理的類別</translation>
     </message>
     <message>
         <source>Select copies to remove — at least one copy of each file is kept</source>
-        <translation>選擇要移除的副本，每個檔案至少會保留一份</translation>
+        <translation>選取要移除的副本，每個檔案至少會保留一份</translation>
     </message>
     <message>
         <source>Select files to remove</source>
-        <translation>選擇要移除的檔案</translation>
+        <translation>選取要移除的檔案</translation>
     </message>
     <message>
         <source>Set threshold and press Scan</source>
@@ -250,19 +250,19 @@
     </message>
     <message>
         <source>This will move %lld files to Trash.</source>
-        <translation>將把 %lld 個檔案移到垃圾桶。</translation>
+        <translation>會將 %lld 個檔案移到垃圾桶。</translation>
     </message>
     <message>
         <source>This will move %lld file to Trash.</source>
-        <translation>將把 %lld 個檔案移到垃圾桶。</translation>
+        <translation>會將 %lld 個檔案移到垃圾桶。</translation>
     </message>
     <message>
         <source>This will permanently delete %lld files.</source>
-        <translation>將永久刪除 %lld 個檔案。</translation>
+        <translation>會永久刪除 %lld 個檔案。</translation>
     </message>
     <message>
         <source>This will permanently delete %lld file.</source>
-        <translation>將永久刪除 %lld 個檔案。</translation>
+        <translation>會永久刪除 %lld 個檔案。</translation>
     </message>
     <message>
         <source>Total Size</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>The selected files will be moved to Trash.</source>
-        <translation>所選檔案將移到垃圾桶。</translation>
+        <translation>會將所選檔案移到垃圾桶。</translation>
     </message>
     <message>
         <source>Move to Trash</source>
@@ -362,7 +362,7 @@
     </message>
     <message>
         <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
-        <translation>所選副本將移到垃圾桶。每個檔案會保留一份原始檔。</translation>
+        <translation>會將所選副本移到垃圾桶。每個檔案會保留一份原始檔。</translation>
     </message>
     <message>
         <source>Selected Files</source>
@@ -402,7 +402,7 @@
     </message>
     <message>
         <source>Grant Access</source>
-        <translation>授予權限</translation>
+        <translation>授予取用權限</translation>
     </message>
     <message>
         <source>Uninstall %@?</source>
@@ -414,7 +414,7 @@
     </message>
     <message>
         <source>This will move the application and related files to Trash.</source>
-        <translation>將把應用程式及其相關檔案移到垃圾桶。</translation>
+        <translation>會將應用程式和相關檔案移到垃圾桶。</translation>
     </message>
     <message>
         <source>Application</source>
@@ -466,7 +466,7 @@
     </message>
     <message>
         <source>This will move the plist file to Trash. You can re-enable it later from the original app.</source>
-        <translation>將把 plist 檔案移到垃圾桶。之後可以從原本的應用程式重新啟用。</translation>
+        <translation>會將 plist 檔案移到垃圾桶。之後可以在原本的應用程式中重新啟用此項目。</translation>
     </message>
     <message>
         <source>Type</source>
@@ -554,11 +554,11 @@
     </message>
     <message>
         <source>%lld item · %@ would be removed</source>
-        <translation>將移除 %lld 項 · %@</translation>
+        <translation>預計移除 %lld 項 · %@</translation>
     </message>
     <message>
         <source>%lld items · %@ would be removed</source>
-        <translation>將移除 %lld 項 · %@</translation>
+        <translation>預計移除 %lld 項 · %@</translation>
     </message>
     <message>
         <source>%lld items · %lld enabled</source>
@@ -566,23 +566,23 @@
     </message>
     <message>
         <source>No junk found</source>
-        <translation>找不到垃圾檔案</translation>
+        <translation>未找到垃圾檔案</translation>
     </message>
     <message>
         <source>No large files found above threshold</source>
-        <translation>找不到超過門檻的大型檔案</translation>
+        <translation>未找到超過門檻的大型檔案</translation>
     </message>
     <message>
         <source>No duplicate files found</source>
-        <translation>找不到重複檔案</translation>
+        <translation>未找到重複檔案</translation>
     </message>
     <message>
         <source>No applications found</source>
-        <translation>找不到應用程式</translation>
+        <translation>未找到應用程式</translation>
     </message>
     <message>
         <source>No startup items found</source>
-        <translation>找不到啟動項目</translation>
+        <translation>未找到啟動項目</translation>
     </message>
     <message>
         <source>Unused</source>
@@ -698,15 +698,15 @@
     </message>
     <message>
         <source>Select applications to uninstall</source>
-        <translation>選擇要解除安裝的應用程式</translation>
+        <translation>選取要解除安裝的應用程式</translation>
     </message>
     <message>
         <source>%lld items selected · %@</source>
-        <translation>已選取 %lld 個項目 · %@</translation>
+        <translation>已選取 %lld 項 · %@</translation>
     </message>
     <message>
         <source>%lld item selected · %@</source>
-        <translation>已選取 %lld 個項目 · %@</translation>
+        <translation>已選取 %lld 項 · %@</translation>
     </message>
     <message>
         <source>%@+</source>
@@ -722,7 +722,7 @@
     </message>
     <message>
         <source>No related files found for this app.</source>
-        <translation>找不到此應用程式的相關檔案。</translation>
+        <translation>未找到此應用程式的相關檔案。</translation>
     </message>
     <message>
         <source>Looking for related files…</source>
@@ -742,7 +742,7 @@
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation>打開系統設定</translation>
+        <translation>開啟系統設定</translation>
     </message>
     <message>
         <source>Scan Apps</source>
@@ -770,7 +770,7 @@
     </message>
     <message>
         <source>Press Scan to find Launch Agents and Daemons</source>
-        <translation>掃描來尋找啟動代理程式和常駐程式</translation>
+        <translation>掃描即可尋找啟動代理程式和啟動常駐程式</translation>
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
@@ -810,7 +810,7 @@
     </message>
     <message>
         <source>Duplicate Scan Folders</source>
-        <translation>重複檔案掃描範圍</translation>
+        <translation>尋找重複檔案的資料夾</translation>
     </message>
     <message>
         <source>Add Folder…</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>Remove folder %@</source>
-        <translation>從列表中移除資料夾「%@」</translation>
+        <translation>從清單中移除資料夾「%@」</translation>
     </message>
     <message>
         <source>About</source>
@@ -858,7 +858,7 @@
     </message>
     <message>
         <source>Open Brisko</source>
-        <translation>打開 Brisko</translation>
+        <translation>開啟 Brisko</translation>
     </message>
     <message>
         <source>Quit Brisko</source>
@@ -898,11 +898,11 @@
     </message>
     <message>
         <source>The settings file was damaged. It is kept as %@.</source>
-        <translation>設定檔已損毀。損毀的檔案保留為「%@」。</translation>
+        <translation>設定檔已損毀。損毀的檔案已保留為「%@」。</translation>
     </message>
     <message>
         <source>Too large to copy to the Trash from another disk.</source>
-        <translation>檔案太大，無法從其他磁碟拷貝到垃圾桶。</translation>
+        <translation>檔案太大，無法從其他磁碟複製到垃圾桶。</translation>
     </message>
 </context>
 </TS>
