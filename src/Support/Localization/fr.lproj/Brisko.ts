@@ -26,7 +26,7 @@
     </message>
     <message>
         <source>Scan complete — %@ can be freed</source>
-        <translation>Analyse terminée — %@ à récupérer</translation>
+        <translation>Analyse terminée — %@ à libérer</translation>
     </message>
     <message>
         <source>Old Downloads</source>
@@ -58,11 +58,11 @@
     </message>
     <message>
         <source>Chat App Caches</source>
-        <translation>Caches des messageries</translation>
+        <translation>Caches des applications de discussion</translation>
     </message>
     <message>
         <source>Leftover Installers</source>
-        <translation>Installateurs restants</translation>
+        <translation>Programmes d’installation restants</translation>
     </message>
     <message>
         <source>Scanning system caches…</source>
@@ -82,11 +82,11 @@
     </message>
     <message>
         <source>Scanning chat caches…</source>
-        <translation>Analyse des caches des messageries…</translation>
+        <translation>Analyse des caches de discussion…</translation>
     </message>
     <message>
         <source>Scanning installers…</source>
-        <translation>Recherche d’installateurs…</translation>
+        <translation>Recherche de programmes d’installation…</translation>
     </message>
     <message>
         <source>Clean %lld categories?</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
-        <translation>Accordez l’accès complet au disque, puis relancez Brisko pour analyser la corbeille, les caches des messageries et d’autres données protégées.</translation>
+        <translation>Accordez l’accès complet au disque, puis relancez Brisko pour analyser la corbeille, les caches des applications de discussion et d’autres données protégées.</translation>
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Can't move to Trash</source>
-        <translation>Impossible de mettre à la corbeille</translation>
+        <translation>Mise à la corbeille impossible</translation>
     </message>
     <message>
         <source>Moved to Trash — %@ freed</source>
@@ -346,11 +346,11 @@
     </message>
     <message>
         <source>Hashing files…</source>
-        <translation>Calcul des empreintes…</translation>
+        <translation>Calcul des empreintes des fichiers…</translation>
     </message>
     <message>
         <source>Hashing files… %lld%%</source>
-        <translation>Calcul des empreintes… %lld %%</translation>
+        <translation>Calcul des empreintes des fichiers… %lld %%</translation>
     </message>
     <message>
         <source>Remove %lld duplicate files?</source>
@@ -518,11 +518,11 @@
     </message>
     <message>
         <source>%lld category · %@ reclaimable</source>
-        <translation>%lld catégorie · %@ à récupérer</translation>
+        <translation>%lld catégorie · %@ à libérer</translation>
     </message>
     <message>
         <source>%lld categories · %@ reclaimable</source>
-        <translation>%lld catégories · %@ à récupérer</translation>
+        <translation>%lld catégories · %@ à libérer</translation>
     </message>
     <message>
         <source>%lld file · %@ total</source>
@@ -534,15 +534,15 @@
     </message>
     <message>
         <source>%lld copies · %@ reclaimable</source>
-        <translation>%lld copies · %@ à récupérer</translation>
+        <translation>%lld copies · %@ à libérer</translation>
     </message>
     <message>
         <source>%lld group · %@ reclaimable</source>
-        <translation>%lld groupe · %@ à récupérer</translation>
+        <translation>%lld groupe · %@ à libérer</translation>
     </message>
     <message>
         <source>%lld groups · %@ reclaimable</source>
-        <translation>%lld groupes · %@ à récupérer</translation>
+        <translation>%lld groupes · %@ à libérer</translation>
     </message>
     <message>
         <source>%lld application · %@ installed</source>
@@ -662,7 +662,7 @@
     </message>
     <message>
         <source>Freeable Space</source>
-        <translation>Espace récupérable</translation>
+        <translation>Espace à libérer</translation>
     </message>
     <message>
         <source>Caches, duplicates &amp; unused apps</source>
@@ -878,7 +878,7 @@
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation>Rappeler plus tard</translation>
+        <translation>Me le rappeler plus tard</translation>
     </message>
     <message>
         <source>Update Available</source>
