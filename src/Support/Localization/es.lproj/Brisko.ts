@@ -22,11 +22,11 @@
     </message>
     <message>
         <source>Done</source>
-        <translation>Listo</translation>
+        <translation>Terminado</translation>
     </message>
     <message>
         <source>Scan complete — %@ can be freed</source>
-        <translation>Análisis completado: %@ recuperables</translation>
+        <translation>Análisis completado: %@ liberables</translation>
     </message>
     <message>
         <source>Old Downloads</source>
@@ -58,7 +58,7 @@
     </message>
     <message>
         <source>Chat App Caches</source>
-        <translation>Cachés de mensajería</translation>
+        <translation>Cachés de aplicaciones de chat</translation>
     </message>
     <message>
         <source>Leftover Installers</source>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>Scanning chat caches…</source>
-        <translation>Analizando las cachés de mensajería…</translation>
+        <translation>Analizando las cachés de chat…</translation>
     </message>
     <message>
         <source>Scanning installers…</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
-        <translation>Conceda el acceso total al disco y reinicie Brisko para analizar la papelera, las cachés de mensajería y otros datos protegidos.</translation>
+        <translation>Conceda el acceso total al disco y reinicie Brisko para analizar la papelera, las cachés de las aplicaciones de chat y otros datos protegidos.</translation>
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
@@ -506,7 +506,7 @@
     </message>
     <message>
         <source>You're up to date!</source>
-        <translation>¡Brisko está actualizado!</translation>
+        <translation>¡Brisko está al día!</translation>
     </message>
     <message>
         <source>%lld file · %@</source>
@@ -518,11 +518,11 @@
     </message>
     <message>
         <source>%lld category · %@ reclaimable</source>
-        <translation>%lld categoría · %@ recuperables</translation>
+        <translation>%lld categoría · %@ liberables</translation>
     </message>
     <message>
         <source>%lld categories · %@ reclaimable</source>
-        <translation>%lld categorías · %@ recuperables</translation>
+        <translation>%lld categorías · %@ liberables</translation>
     </message>
     <message>
         <source>%lld file · %@ total</source>
@@ -534,15 +534,15 @@
     </message>
     <message>
         <source>%lld copies · %@ reclaimable</source>
-        <translation>%lld copias · %@ recuperables</translation>
+        <translation>%lld copias · %@ liberables</translation>
     </message>
     <message>
         <source>%lld group · %@ reclaimable</source>
-        <translation>%lld grupo · %@ recuperables</translation>
+        <translation>%lld grupo · %@ liberables</translation>
     </message>
     <message>
         <source>%lld groups · %@ reclaimable</source>
-        <translation>%lld grupos · %@ recuperables</translation>
+        <translation>%lld grupos · %@ liberables</translation>
     </message>
     <message>
         <source>%lld application · %@ installed</source>
@@ -662,7 +662,7 @@
     </message>
     <message>
         <source>Freeable Space</source>
-        <translation>Espacio recuperable</translation>
+        <translation>Espacio liberable</translation>
     </message>
     <message>
         <source>Caches, duplicates &amp; unused apps</source>
@@ -762,7 +762,7 @@
     </message>
     <message>
         <source>Press Scan to list startup items</source>
-        <translation>Inicie un análisis para ver los elementos de inicio</translation>
+        <translation>Haga un análisis para ver los elementos de inicio</translation>
     </message>
     <message>
         <source>No startup items yet</source>
@@ -770,7 +770,7 @@
     </message>
     <message>
         <source>Press Scan to find Launch Agents and Daemons</source>
-        <translation>Inicie un análisis para encontrar agentes y demonios de inicio</translation>
+        <translation>Haga un análisis para encontrar agentes y demonios de inicio</translation>
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
@@ -878,7 +878,7 @@
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation>Recordar más tarde</translation>
+        <translation>Recordármelo más tarde</translation>
     </message>
     <message>
         <source>Update Available</source>
