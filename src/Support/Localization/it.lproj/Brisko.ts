@@ -26,7 +26,7 @@
     </message>
     <message>
         <source>Scan complete — %@ can be freed</source>
-        <translation>Analisi completata – %@ recuperabili</translation>
+        <translation>Analisi completata – %@ liberabili</translation>
     </message>
     <message>
         <source>Old Downloads</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>No duplicate files yet — press Scan to search</source>
-        <translation>Ancora nessun file duplicato – premere «Analizza» per cercare</translation>
+        <translation>Ancora nessun file duplicato – premere «Analizza» per avviare la ricerca</translation>
     </message>
     <message>
         <source>No junk found yet</source>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>… and %lld more</source>
-        <translation>… e ancora %lld</translation>
+        <translation>… altri file: %lld</translation>
     </message>
     <message>
         <source>This will move %lld files to Trash.</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Can't clean junk</source>
-        <translation>Impossibile eliminare i file inutili</translation>
+        <translation>Impossibile rimuovere i file inutili</translation>
     </message>
     <message>
         <source>%@ freed, but %lld protected items were skipped (such as diagnostic reports or sandbox data). You can remove them manually in Finder.</source>
@@ -518,11 +518,11 @@
     </message>
     <message>
         <source>%lld category · %@ reclaimable</source>
-        <translation>%lld categoria · %@ recuperabili</translation>
+        <translation>%lld categoria · %@ liberabili</translation>
     </message>
     <message>
         <source>%lld categories · %@ reclaimable</source>
-        <translation>%lld categorie · %@ recuperabili</translation>
+        <translation>%lld categorie · %@ liberabili</translation>
     </message>
     <message>
         <source>%lld file · %@ total</source>
@@ -534,15 +534,15 @@
     </message>
     <message>
         <source>%lld copies · %@ reclaimable</source>
-        <translation>%lld copie · %@ recuperabili</translation>
+        <translation>%lld copie · %@ liberabili</translation>
     </message>
     <message>
         <source>%lld group · %@ reclaimable</source>
-        <translation>%lld gruppo · %@ recuperabili</translation>
+        <translation>%lld gruppo · %@ liberabili</translation>
     </message>
     <message>
         <source>%lld groups · %@ reclaimable</source>
-        <translation>%lld gruppi · %@ recuperabili</translation>
+        <translation>%lld gruppi · %@ liberabili</translation>
     </message>
     <message>
         <source>%lld application · %@ installed</source>
@@ -662,7 +662,7 @@
     </message>
     <message>
         <source>Freeable Space</source>
-        <translation>Spazio recuperabile</translation>
+        <translation>Spazio liberabile</translation>
     </message>
     <message>
         <source>Caches, duplicates &amp; unused apps</source>
@@ -878,7 +878,7 @@
     </message>
     <message>
         <source>Remind Me Later</source>
-        <translation>Ricorda più tardi</translation>
+        <translation>Ricordamelo più tardi</translation>
     </message>
     <message>
         <source>Update Available</source>
