@@ -38,7 +38,7 @@
     </message>
     <message>
         <source>System Logs</source>
-        <translation>บันทึกของระบบ</translation>
+        <translation>ไฟล์บันทึกของระบบ</translation>
     </message>
     <message>
         <source>Temp Files</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>At least one copy is kept</source>
-        <translation>จะเก็บไว้อย่างน้อยหนึ่งสำเนา</translation>
+        <translation>จะเก็บสำเนาไว้อย่างน้อยหนึ่งชุด</translation>
     </message>
     <message>
         <source>Choose a folder to scan for large files.</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
-        <translation>อนุญาตการเข้าถึงดิสก์ทั้งหมด แล้วเริ่ม Brisko ใหม่เพื่อสแกนถังขยะ แคชของแอปแชต และข้อมูลอื่นที่มีการป้องกัน</translation>
+        <translation>อนุญาตการเข้าถึงทั้งดิสก์ แล้วเริ่ม Brisko ใหม่เพื่อสแกนถังขยะ แคชของแอปแชต และข้อมูลอื่นที่มีการป้องกัน</translation>
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>Press Scan to search for caches, logs, and temporary files</source>
-        <translation>กด “สแกน” เพื่อค้นหาแคช บันทึก และไฟล์ชั่วคราว</translation>
+        <translation>กด “สแกน” เพื่อค้นหาแคช ไฟล์บันทึก และไฟล์ชั่วคราว</translation>
     </message>
     <message>
         <source>Press Scan to search your folders for identical copies</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>Select copies to remove — at least one copy of each file is kept</source>
-        <translation>เลือกสำเนาที่จะลบ — จะเก็บแต่ละไฟล์ไว้อย่างน้อยหนึ่งสำเนา</translation>
+        <translation>เลือกสำเนาที่จะลบ — จะเก็บสำเนาของแต่ละไฟล์ไว้อย่างน้อยหนึ่งชุด</translation>
     </message>
     <message>
         <source>Select files to remove</source>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Cleaned — %@ freed</source>
-        <translation>ล้างแล้ว — คืนพื้นที่ได้ %@</translation>
+        <translation>ล้างแล้ว — คืนพื้นที่ %@</translation>
     </message>
     <message>
         <source>Can't clean junk</source>
@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>Moved to Trash — %@ freed</source>
-        <translation>ย้ายไปถังขยะแล้ว — คืนพื้นที่ได้ %@</translation>
+        <translation>ย้ายไปถังขยะแล้ว — คืนพื้นที่ %@</translation>
     </message>
     <message>
         <source>Finding duplicate files…</source>
@@ -362,7 +362,7 @@
     </message>
     <message>
         <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
-        <translation>จะย้ายสำเนาที่เลือกไปถังขยะ และเก็บต้นฉบับของแต่ละไฟล์ไว้หนึ่งสำเนา</translation>
+        <translation>จะย้ายสำเนาที่เลือกไปถังขยะ และเก็บต้นฉบับของแต่ละไฟล์ไว้หนึ่งชุด</translation>
     </message>
     <message>
         <source>Selected Files</source>
@@ -378,7 +378,7 @@
     </message>
     <message>
         <source>Removed %lld duplicates — %@ freed</source>
-        <translation>ลบไฟล์ซ้ำ %lld ไฟล์แล้ว — คืนพื้นที่ได้ %@</translation>
+        <translation>ลบไฟล์ซ้ำ %lld ไฟล์แล้ว — คืนพื้นที่ %@</translation>
     </message>
     <message>
         <source>Scanning applications…</source>
@@ -390,7 +390,7 @@
     </message>
     <message>
         <source>Brisko needs access to the Library folder to scan caches and logs.</source>
-        <translation>Brisko ต้องเข้าถึงโฟลเดอร์คลังเพื่อสแกนแคชและบันทึก</translation>
+        <translation>Brisko ต้องเข้าถึงโฟลเดอร์คลังเพื่อสแกนแคชและไฟล์บันทึก</translation>
     </message>
     <message>
         <source>Brisko needs access to the Applications folder to move apps to Trash.</source>
@@ -466,7 +466,7 @@
     </message>
     <message>
         <source>This will move the plist file to Trash. You can re-enable it later from the original app.</source>
-        <translation>จะย้ายไฟล์ plist ไปถังขยะ คุณเปิดใช้อีกครั้งภายหลังได้จากแอปต้นฉบับ</translation>
+        <translation>จะย้ายไฟล์ plist ไปถังขยะ คุณเปิดใช้รายการนี้อีกครั้งภายหลังได้จากแอปต้นทาง</translation>
     </message>
     <message>
         <source>Type</source>
@@ -534,7 +534,7 @@
     </message>
     <message>
         <source>%lld copies · %@ reclaimable</source>
-        <translation>%lld สำเนา · คืนพื้นที่ได้ %@</translation>
+        <translation>สำเนา %lld ชุด · คืนพื้นที่ได้ %@</translation>
     </message>
     <message>
         <source>%lld group · %@ reclaimable</source>
@@ -562,7 +562,7 @@
     </message>
     <message>
         <source>%lld items · %lld enabled</source>
-        <translation>%lld รายการ · เปิดใช้ %lld</translation>
+        <translation>%lld รายการ · เปิดใช้อยู่ %lld รายการ</translation>
     </message>
     <message>
         <source>No junk found</source>
@@ -590,11 +590,11 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation>เปิดใช้</translation>
+        <translation>เปิดใช้อยู่</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>ปิดใช้</translation>
+        <translation>ปิดใช้อยู่</translation>
     </message>
     <message>
         <source>Uninstaller</source>
@@ -658,7 +658,7 @@
     </message>
     <message>
         <source>Unavailable</source>
-        <translation>ใช้ไม่ได้</translation>
+        <translation>ไม่มีข้อมูล</translation>
     </message>
     <message>
         <source>Freeable Space</source>
@@ -678,11 +678,11 @@
     </message>
     <message>
         <source>Large file cleanup</source>
-        <translation>จัดการไฟล์ขนาดใหญ่</translation>
+        <translation>ล้างไฟล์ขนาดใหญ่</translation>
     </message>
     <message>
         <source>Caches &amp; logs</source>
-        <translation>แคชและบันทึก</translation>
+        <translation>แคชและไฟล์บันทึก</translation>
     </message>
     <message>
         <source>%lld%%</source>
@@ -730,15 +730,15 @@
     </message>
     <message>
         <source>Full Disk Access required</source>
-        <translation>ต้องอนุญาตการเข้าถึงดิสก์ทั้งหมด</translation>
+        <translation>ต้องอนุญาตการเข้าถึงทั้งดิสก์</translation>
     </message>
     <message>
         <source>Full Disk Access Required</source>
-        <translation>ต้องอนุญาตการเข้าถึงดิสก์ทั้งหมด</translation>
+        <translation>ต้องอนุญาตการเข้าถึงทั้งดิสก์</translation>
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan app container data (caches, settings) and uninstall apps completely.</source>
-        <translation>อนุญาตการเข้าถึงดิสก์ทั้งหมด แล้วเริ่ม Brisko ใหม่เพื่อสแกนข้อมูลในคอนเทนเนอร์ของแอป (แคช การตั้งค่า) และถอนการติดตั้งแอปได้อย่างสมบูรณ์</translation>
+        <translation>อนุญาตการเข้าถึงทั้งดิสก์ แล้วเริ่ม Brisko ใหม่เพื่อสแกนข้อมูลในคอนเทนเนอร์ของแอป (แคช การตั้งค่า) และถอนการติดตั้งแอปได้อย่างสมบูรณ์</translation>
     </message>
     <message>
         <source>Open System Settings</source>
@@ -774,7 +774,7 @@
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
-        <translation>%lld รายการ · เปิดใช้ %lld</translation>
+        <translation>%lld รายการ · เปิดใช้อยู่ %lld รายการ</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>Remove folder %@</source>
-        <translation>ลบโฟลเดอร์ %@</translation>
+        <translation>นำโฟลเดอร์ %@ ออก</translation>
     </message>
     <message>
         <source>About</source>

@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
-        <translation>Çöpü, sohbet uygulaması önbelleklerini ve diğer korunan verileri taramak için Tam Disk Erişimi verin, ardından Brisko’yu yeniden başlatın.</translation>
+        <translation>Çöpü, sohbet uygulaması önbelleklerini ve diğer korunan verileri taramak için Tam Disk Erişimi izni verin, ardından Brisko’yu yeniden başlatın.</translation>
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>Özgün</translation>
+        <translation>Asıl</translation>
     </message>
     <message>
         <source>Press Scan to find junk files</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Set threshold and press Scan</source>
-        <translation>Eşiği ayarlayıp Tara’ya basın</translation>
+        <translation>Alt sınırı belirleyip Tara’ya basın</translation>
     </message>
     <message>
         <source>Show in File Manager</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Can't clean junk</source>
-        <translation>Gereksiz dosyalar temizlenemiyor</translation>
+        <translation>Gereksiz dosyalar temizlenemedi</translation>
     </message>
     <message>
         <source>%@ freed, but %lld protected items were skipped (such as diagnostic reports or sandbox data). You can remove them manually in Finder.</source>
@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>Scanning for large files…</source>
-        <translation>Büyük dosyalar taranıyor…</translation>
+        <translation>Büyük dosyalar aranıyor…</translation>
     </message>
     <message>
         <source>Scanning… %lld files checked</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Can't move to Trash</source>
-        <translation>Çöpe taşınamıyor</translation>
+        <translation>Çöpe taşınamadı</translation>
     </message>
     <message>
         <source>Moved to Trash — %@ freed</source>
@@ -362,7 +362,7 @@
     </message>
     <message>
         <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
-        <translation>Seçilen kopyalar çöpe taşınacak. Her dosyanın özgün bir kopyası korunur.</translation>
+        <translation>Seçilen kopyalar çöpe taşınacak. Her dosyanın bir asıl kopyası korunur.</translation>
     </message>
     <message>
         <source>Selected Files</source>
@@ -378,7 +378,7 @@
     </message>
     <message>
         <source>Removed %lld duplicates — %@ freed</source>
-        <translation>%lld yinelenen silindi — %@ boşaltıldı</translation>
+        <translation>%lld yinelenen dosya silindi — %@ boşaltıldı</translation>
     </message>
     <message>
         <source>Scanning applications…</source>
@@ -402,7 +402,7 @@
     </message>
     <message>
         <source>Grant Access</source>
-        <translation>Erişim Ver</translation>
+        <translation>Erişim İzni Ver</translation>
     </message>
     <message>
         <source>Uninstall %@?</source>
@@ -446,7 +446,7 @@
     </message>
     <message>
         <source>Login Item</source>
-        <translation>Oturum Öğesi</translation>
+        <translation>Giriş Öğesi</translation>
     </message>
     <message>
         <source>Scanning startup items…</source>
@@ -486,7 +486,7 @@
     </message>
     <message>
         <source>Can't remove startup item</source>
-        <translation>Başlangıç öğesi silinemiyor</translation>
+        <translation>Başlangıç öğesi silinemedi</translation>
     </message>
     <message>
         <source>Cannot remove system-level startup items</source>
@@ -502,7 +502,7 @@
     </message>
     <message>
         <source>Can't reach the update server. Check your network and try again.</source>
-        <translation>Güncelleme sunucusuna ulaşılamıyor. Ağınızı denetleyip yeniden deneyin.</translation>
+        <translation>Güncelleme sunucusuna ulaşılamıyor. Ağ bağlantınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message>
         <source>You're up to date!</source>
@@ -554,11 +554,11 @@
     </message>
     <message>
         <source>%lld item · %@ would be removed</source>
-        <translation>%lld öğe · %@ silinecek</translation>
+        <translation>%lld öğe · %@ silinirdi</translation>
     </message>
     <message>
         <source>%lld items · %@ would be removed</source>
-        <translation>%lld öğe · %@ silinecek</translation>
+        <translation>%lld öğe · %@ silinirdi</translation>
     </message>
     <message>
         <source>%lld items · %lld enabled</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>No large files found above threshold</source>
-        <translation>Eşiğin üzerinde büyük dosya bulunamadı</translation>
+        <translation>Alt sınırın üzerinde büyük dosya bulunamadı</translation>
     </message>
     <message>
         <source>No duplicate files found</source>
@@ -594,7 +594,7 @@
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Devre dışı</translation>
+        <translation>Kapalı</translation>
     </message>
     <message>
         <source>Uninstaller</source>
@@ -658,7 +658,7 @@
     </message>
     <message>
         <source>Unavailable</source>
-        <translation>Kullanılamıyor</translation>
+        <translation>Bilgi yok</translation>
     </message>
     <message>
         <source>Freeable Space</source>
@@ -738,7 +738,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan app container data (caches, settings) and uninstall apps completely.</source>
-        <translation>Uygulama kapsayıcılarındaki verileri (önbellekler, ayarlar) taramak ve uygulamaları tamamen kaldırmak için Tam Disk Erişimi verin, ardından Brisko’yu yeniden başlatın.</translation>
+        <translation>Uygulama kapsayıcılarındaki verileri (önbellekler, ayarlar) taramak ve uygulamaları tamamen kaldırmak için Tam Disk Erişimi izni verin, ardından Brisko’yu yeniden başlatın.</translation>
     </message>
     <message>
         <source>Open System Settings</source>
@@ -746,7 +746,7 @@
     </message>
     <message>
         <source>Scan Apps</source>
-        <translation>Uygulamaları Tara</translation>
+        <translation>Uygulama Tara</translation>
     </message>
     <message>
         <source>Show files of %@</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>Remove folder %@</source>
-        <translation>%@ klasörünü kaldır</translation>
+        <translation>%@ klasörünü çıkar</translation>
     </message>
     <message>
         <source>About</source>
