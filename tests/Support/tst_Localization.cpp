@@ -58,6 +58,12 @@ QStringList placeholders(const QString &text)
     return found;
 }
 
+/// How many percent signs a text shows. Each pair counts once: three in a row are a sign before a placeholder.
+qsizetype percentSigns(const QString &text)
+{
+    return (text.size() - QString(text).remove(u"%%"_s).size()) / 2;
+}
+
 class Localization : public testing::TestWithParam<QString>
 {
 protected:
@@ -76,7 +82,7 @@ TEST_P(Localization, isCompleteAndKeepsEveryPlaceholder)
         EXPECT_TRUE(message.finished) << source;
         EXPECT_FALSE(message.translation.trimmed().isEmpty()) << source;
         EXPECT_EQ(placeholders(message.translation), placeholders(message.source)) << source;
-        EXPECT_EQ(message.translation.count(u"%%"_s), message.source.count(u"%%"_s)) << source;
+        EXPECT_EQ(percentSigns(message.translation), percentSigns(message.source)) << source;
     }
 }
 
