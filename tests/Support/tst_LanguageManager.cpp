@@ -72,7 +72,7 @@ TEST_F(LanguageManagerTest, formatsGermanWithTheGermanLocale)
     LanguageManager::apply(AppLanguage::de, defaults);
     EXPECT_EQ(LanguageManager::localeIdentifier(), u"de_DE"_s);
     EXPECT_EQ(LanguageManager::locale(), QLocale(QLocale::German, QLocale::Germany));
-    EXPECT_EQ(Text::filled(u"Hashing files… %lld%%", {qint64{1'234}}), u"Prüfsummen werden berechnet … 1.234 %"_s);
+    EXPECT_EQ(Text::filled(u"Hashing files… %lld%%", {qint64{1'234}}), u"Dateien werden verglichen … 1.234 %"_s);
 }
 
 TEST_F(LanguageManagerTest, hasTheDocumentedLocaleForEachLanguage)

@@ -300,7 +300,7 @@ void tst_StartupPage::translatesRows()
     QSignalSpy touched(page.items(), &QAbstractItemModel::dataChanged);
     state.setLanguage(AppLanguage::de);
     QCOMPARE(touched.count(), 1);
-    QCOMPARE(page.status(), u"1 Objekt · 1 aktiviert"_s);
+    QCOMPARE(page.status(), u"1 Objekt · 1 aktiv"_s);
     QCOMPARE(Rows(page.items()).value(0, "toggleText").toString(), u"Deaktivieren"_s);
     state.setLanguage(AppLanguage::en);
 }

@@ -547,7 +547,7 @@ void tst_UninstallerPage::translatesRows()
     UninstallerPage page(state, f.actions);
     scan(state);
     state.setLanguage(AppLanguage::de);
-    QCOMPARE(page.footer(), u"Apps zum Deinstallieren auswählen"_s);
+    QCOMPARE(page.footer(), u"Wähle Apps zum Deinstallieren aus"_s);
     QCOMPARE(at(page, 0, "summary").toString(), u"Keine zugehörigen Dateien"_s);
     state.setLanguage(AppLanguage::en);
     QCOMPARE(page.footer(), u"Select applications to uninstall"_s);

@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>Leftover Installers</source>
-        <translation>Übrig gebliebene Installationsdateien</translation>
+        <translation>Verbliebene Installationsdateien</translation>
     </message>
     <message>
         <source>Scanning system caches…</source>
@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Add folders to scan</source>
-        <translation>Ordner zum Durchsuchen hinzufügen</translation>
+        <translation>Füge Ordner zum Durchsuchen hinzu</translation>
     </message>
     <message>
         <source>At least one copy is kept</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
-        <translation>Erlaube den Festplattenvollzugriff und starte Brisko neu, um den Papierkorb, die Caches von Chat-Apps und andere geschützte Daten zu durchsuchen.</translation>
+        <translation>Gewähre den Festplattenvollzugriff und starte Brisko dann neu, um den Papierkorb, die Caches von Chat-Apps und andere geschützte Daten zu durchsuchen.</translation>
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
@@ -202,7 +202,7 @@
     </message>
     <message>
         <source>Rescan</source>
-        <translation>Erneut scannen</translation>
+        <translation>Neu scannen</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>Scanning… %lld files checked</source>
-        <translation>Wird durchsucht … %lld Dateien geprüft</translation>
+        <translation>Wird gescannt … %lld Dateien geprüft</translation>
     </message>
     <message>
         <source>Remove %lld large files?</source>
@@ -346,11 +346,11 @@
     </message>
     <message>
         <source>Hashing files…</source>
-        <translation>Prüfsummen werden berechnet …</translation>
+        <translation>Dateien werden verglichen …</translation>
     </message>
     <message>
         <source>Hashing files… %lld%%</source>
-        <translation>Prüfsummen werden berechnet … %lld %%</translation>
+        <translation>Dateien werden verglichen … %lld %%</translation>
     </message>
     <message>
         <source>Remove %lld duplicate files?</source>
@@ -438,11 +438,11 @@
     </message>
     <message>
         <source>Launch Agent</source>
-        <translation>Launch Agent</translation>
+        <translation>Startagent</translation>
     </message>
     <message>
         <source>Launch Daemon</source>
-        <translation>Launch Daemon</translation>
+        <translation>Startdienst</translation>
     </message>
     <message>
         <source>Login Item</source>
@@ -506,7 +506,7 @@
     </message>
     <message>
         <source>You're up to date!</source>
-        <translation>Du bist auf dem neuesten Stand!</translation>
+        <translation>Brisko ist auf dem neuesten Stand!</translation>
     </message>
     <message>
         <source>%lld file · %@</source>
@@ -518,11 +518,11 @@
     </message>
     <message>
         <source>%lld category · %@ reclaimable</source>
-        <translation>%lld Kategorie · %@ können freigegeben werden</translation>
+        <translation>%lld Kategorie · %@ freigebbar</translation>
     </message>
     <message>
         <source>%lld categories · %@ reclaimable</source>
-        <translation>%lld Kategorien · %@ können freigegeben werden</translation>
+        <translation>%lld Kategorien · %@ freigebbar</translation>
     </message>
     <message>
         <source>%lld file · %@ total</source>
@@ -534,15 +534,15 @@
     </message>
     <message>
         <source>%lld copies · %@ reclaimable</source>
-        <translation>%lld Kopien · %@ können freigegeben werden</translation>
+        <translation>%lld Kopien · %@ freigebbar</translation>
     </message>
     <message>
         <source>%lld group · %@ reclaimable</source>
-        <translation>%lld Gruppe · %@ können freigegeben werden</translation>
+        <translation>%lld Gruppe · %@ freigebbar</translation>
     </message>
     <message>
         <source>%lld groups · %@ reclaimable</source>
-        <translation>%lld Gruppen · %@ können freigegeben werden</translation>
+        <translation>%lld Gruppen · %@ freigebbar</translation>
     </message>
     <message>
         <source>%lld application · %@ installed</source>
@@ -562,7 +562,7 @@
     </message>
     <message>
         <source>%lld items · %lld enabled</source>
-        <translation>%lld Objekte · %lld aktiviert</translation>
+        <translation>%lld Objekte · %lld aktiv</translation>
     </message>
     <message>
         <source>No junk found</source>
@@ -570,7 +570,7 @@
     </message>
     <message>
         <source>No large files found above threshold</source>
-        <translation>Keine Dateien über dem Schwellenwert gefunden</translation>
+        <translation>Keine großen Dateien über der Mindestgröße gefunden</translation>
     </message>
     <message>
         <source>No duplicate files found</source>
@@ -586,15 +586,15 @@
     </message>
     <message>
         <source>Unused</source>
-        <translation>Unbenutzt</translation>
+        <translation>Ungenutzt</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation>Aktiviert</translation>
+        <translation>Aktiv</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation>Deaktiviert</translation>
+        <translation>Inaktiv</translation>
     </message>
     <message>
         <source>Uninstaller</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>Free disk space</source>
-        <translation>Freier Speicherplatz</translation>
+        <translation>Freier Speicher</translation>
     </message>
     <message>
         <source>Disk Temperature</source>
@@ -670,7 +670,7 @@
     </message>
     <message>
         <source>Unused applications</source>
-        <translation>Ungenutzte Programme</translation>
+        <translation>Ungenutzte Apps</translation>
     </message>
     <message>
         <source>Duplicate files</source>
@@ -698,7 +698,7 @@
     </message>
     <message>
         <source>Select applications to uninstall</source>
-        <translation>Apps zum Deinstallieren auswählen</translation>
+        <translation>Wähle Apps zum Deinstallieren aus</translation>
     </message>
     <message>
         <source>%lld items selected · %@</source>
@@ -722,7 +722,7 @@
     </message>
     <message>
         <source>No related files found for this app.</source>
-        <translation>Zu dieser App wurden keine weiteren Dateien gefunden.</translation>
+        <translation>Zu dieser App wurden keine zugehörigen Dateien gefunden.</translation>
     </message>
     <message>
         <source>Looking for related files…</source>
@@ -762,7 +762,7 @@
     </message>
     <message>
         <source>Press Scan to list startup items</source>
-        <translation>Auf „Scannen“ klicken, um Startobjekte aufzulisten</translation>
+        <translation>Klicke auf „Scannen“, um Startobjekte aufzulisten</translation>
     </message>
     <message>
         <source>No startup items yet</source>
@@ -770,11 +770,11 @@
     </message>
     <message>
         <source>Press Scan to find Launch Agents and Daemons</source>
-        <translation>Auf „Scannen“ klicken, um Agenten und Dienste zu finden</translation>
+        <translation>Klicke auf „Scannen“, um Startagenten und Startdienste zu finden</translation>
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
-        <translation>%lld Objekt · %lld aktiviert</translation>
+        <translation>%lld Objekt · %lld aktiv</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -822,11 +822,11 @@
     </message>
     <message>
         <source>Remove folder %@</source>
-        <translation>Ordner %@ entfernen</translation>
+        <translation>Ordner %@ aus der Liste entfernen</translation>
     </message>
     <message>
         <source>About</source>
-        <translation>Über</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Brisko %@</source>
@@ -834,7 +834,7 @@
     </message>
     <message>
         <source>A Cleaner, Lighter Mac — More Space. A Brighter Tomorrow.</source>
-        <translation>Ein sauberer, leichterer Mac – mehr Platz. Ein hellerer Morgen.</translation>
+        <translation>Ein sauberer, leichterer Mac – mehr Platz. Ein helleres Morgen.</translation>
     </message>
     <message>
         <source>Check for Updates</source>
@@ -842,7 +842,7 @@
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation>Suche nach Updates …</translation>
+        <translation>Updates werden gesucht …</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
@@ -870,11 +870,11 @@
     </message>
     <message>
         <source>Download</source>
-        <translation>Laden</translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation>Diese Version überspringen</translation>
+        <translation>Version überspringen</translation>
     </message>
     <message>
         <source>Remind Me Later</source>
@@ -894,7 +894,7 @@
     </message>
     <message>
         <source>Stopped.</source>
-        <translation>Angehalten.</translation>
+        <translation>Gestoppt.</translation>
     </message>
     <message>
         <source>The settings file was damaged. It is kept as %@.</source>
