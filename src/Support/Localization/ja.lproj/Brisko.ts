@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Add folders to scan</source>
-        <translation>検索するフォルダを追加してください</translation>
+        <translation>スキャンするフォルダを追加してください</translation>
     </message>
     <message>
         <source>At least one copy is kept</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan the Trash, chat app caches, and other protected data.</source>
-        <translation>フルディスクアクセスを許可してからBriskoを再起動すると、ゴミ箱、チャットアプリのキャッシュ、その他の保護されたデータを検索できます。</translation>
+        <translation>フルディスクアクセスを許可してからBriskoを再起動すると、ゴミ箱、チャットアプリのキャッシュ、その他の保護されたデータをスキャンできます。</translation>
     </message>
     <message>
         <source>Hashing file contents, this may take a moment</source>
@@ -158,7 +158,7 @@
     </message>
     <message>
         <source>Keep First</source>
-        <translation>最初を残す</translation>
+        <translation>最初のみ残す</translation>
     </message>
     <message>
         <source>Large files</source>
@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>No junk found — your Mac is clean</source>
-        <translation>不要ファイルはありません — Macはきれいです</translation>
+        <translation>不要ファイルは見つかりませんでした — Macはきれいです</translation>
     </message>
     <message>
         <source>No large files yet</source>
@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>Press Scan to find junk files</source>
-        <translation>「スキャン」を押して不要ファイルを探してください</translation>
+        <translation>「スキャン」を押すと、不要ファイルを検索します</translation>
     </message>
     <message>
         <source>Press Scan to search for caches, logs, and temporary files</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Scanning folders…</source>
-        <translation>フォルダを検索中…</translation>
+        <translation>フォルダをスキャン中…</translation>
     </message>
     <message>
         <source>Scanning…</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Can't clean junk</source>
-        <translation>不要なファイルをクリーンアップできません</translation>
+        <translation>不要ファイルをクリーンアップできません</translation>
     </message>
     <message>
         <source>%@ freed, but %lld protected items were skipped (such as diagnostic reports or sandbox data). You can remove them manually in Finder.</source>
@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>Scanning for large files…</source>
-        <translation>大きなファイルをスキャン中…</translation>
+        <translation>大きなファイルを検索中…</translation>
     </message>
     <message>
         <source>Scanning… %lld files checked</source>
@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation>ゴミ箱に入れる</translation>
+        <translation>ゴミ箱に移動</translation>
     </message>
     <message>
         <source>%lld large files removed</source>
@@ -346,11 +346,11 @@
     </message>
     <message>
         <source>Hashing files…</source>
-        <translation>ハッシュを計算中…</translation>
+        <translation>ファイルを比較中…</translation>
     </message>
     <message>
         <source>Hashing files… %lld%%</source>
-        <translation>ハッシュを計算中… %lld%%</translation>
+        <translation>ファイルを比較中… %lld%%</translation>
     </message>
     <message>
         <source>Remove %lld duplicate files?</source>
@@ -362,7 +362,7 @@
     </message>
     <message>
         <source>The selected copies will be moved to Trash. One original copy of each file is kept.</source>
-        <translation>選択したコピーをゴミ箱に移動します。各ファイルの元のコピーは1つ残ります。</translation>
+        <translation>選択したコピーをゴミ箱に移動します。各ファイルのオリジナルは1つ残ります。</translation>
     </message>
     <message>
         <source>Selected Files</source>
@@ -382,19 +382,19 @@
     </message>
     <message>
         <source>Scanning applications…</source>
-        <translation>アプリケーションをスキャン中…</translation>
+        <translation>アプリをスキャン中…</translation>
     </message>
     <message>
         <source>Brisko needs access to the Library folder to find app-related files.</source>
-        <translation>アプリの関連ファイルを見つけるために、Briskoはライブラリフォルダへのアクセスが必要です。</translation>
+        <translation>アプリの関連ファイルを見つけるために、Briskoにはライブラリフォルダへのアクセスが必要です。</translation>
     </message>
     <message>
         <source>Brisko needs access to the Library folder to scan caches and logs.</source>
-        <translation>キャッシュとログをスキャンするために、Briskoはライブラリフォルダへのアクセスが必要です。</translation>
+        <translation>キャッシュとログをスキャンするために、Briskoにはライブラリフォルダへのアクセスが必要です。</translation>
     </message>
     <message>
         <source>Brisko needs access to the Applications folder to move apps to Trash.</source>
-        <translation>アプリをゴミ箱に移動するために、Briskoはアプリケーションフォルダへのアクセスが必要です。</translation>
+        <translation>アプリをゴミ箱に移動するために、Briskoにはアプリケーションフォルダへのアクセスが必要です。</translation>
     </message>
     <message>
         <source>Add Folder</source>
@@ -414,15 +414,15 @@
     </message>
     <message>
         <source>This will move the application and related files to Trash.</source>
-        <translation>アプリケーションと関連ファイルをゴミ箱に移動します。</translation>
+        <translation>アプリと関連ファイルをゴミ箱に移動します。</translation>
     </message>
     <message>
         <source>Application</source>
-        <translation>アプリケーション</translation>
+        <translation>アプリ</translation>
     </message>
     <message>
         <source>Applications</source>
-        <translation>アプリケーション</translation>
+        <translation>アプリ</translation>
     </message>
     <message>
         <source>Related Files</source>
@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>Scanning startup items…</source>
-        <translation>起動項目をスキャン中…</translation>
+        <translation>スタートアップ項目をスキャン中…</translation>
     </message>
     <message>
         <source>%@ enabled</source>
@@ -486,11 +486,11 @@
     </message>
     <message>
         <source>Can't remove startup item</source>
-        <translation>起動項目を削除できません</translation>
+        <translation>スタートアップ項目を削除できません</translation>
     </message>
     <message>
         <source>Cannot remove system-level startup items</source>
-        <translation>システムレベルの起動項目は削除できません</translation>
+        <translation>システムレベルのスタートアップ項目は削除できません</translation>
     </message>
     <message>
         <source>System-level items cannot be modified</source>
@@ -546,11 +546,11 @@
     </message>
     <message>
         <source>%lld application · %@ installed</source>
-        <translation>%lld個のアプリケーション · %@をインストール済み</translation>
+        <translation>%lld個のアプリ · インストールサイズ%@</translation>
     </message>
     <message>
         <source>%lld applications · %@ installed</source>
-        <translation>%lld個のアプリケーション · %@をインストール済み</translation>
+        <translation>%lld個のアプリ · インストールサイズ%@</translation>
     </message>
     <message>
         <source>%lld item · %@ would be removed</source>
@@ -566,7 +566,7 @@
     </message>
     <message>
         <source>No junk found</source>
-        <translation>不要なファイルは見つかりませんでした</translation>
+        <translation>不要ファイルは見つかりませんでした</translation>
     </message>
     <message>
         <source>No large files found above threshold</source>
@@ -578,11 +578,11 @@
     </message>
     <message>
         <source>No applications found</source>
-        <translation>アプリケーションが見つかりませんでした</translation>
+        <translation>アプリは見つかりませんでした</translation>
     </message>
     <message>
         <source>No startup items found</source>
-        <translation>起動項目が見つかりませんでした</translation>
+        <translation>スタートアップ項目は見つかりませんでした</translation>
     </message>
     <message>
         <source>Unused</source>
@@ -610,7 +610,7 @@
     </message>
     <message>
         <source>Junk Cleaner</source>
-        <translation>不要ファイルのクリーナー</translation>
+        <translation>不要ファイル</translation>
     </message>
     <message>
         <source>CPU</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>Free up space, remove junk, and keep your Mac running at its best.</source>
-        <translation>空き容量を増やし、不要なファイルを取り除いて、Macを快適に保ちましょう。</translation>
+        <translation>空き容量を増やし、不要ファイルを削除して、Macを快適に保ちましょう。</translation>
     </message>
     <message>
         <source>Processor load</source>
@@ -666,11 +666,11 @@
     </message>
     <message>
         <source>Caches, duplicates &amp; unused apps</source>
-        <translation>キャッシュ、重複、未使用のアプリ</translation>
+        <translation>キャッシュ、重複ファイル、未使用のアプリ</translation>
     </message>
     <message>
         <source>Unused applications</source>
-        <translation>未使用のアプリケーション</translation>
+        <translation>未使用のアプリ</translation>
     </message>
     <message>
         <source>Duplicate files</source>
@@ -698,7 +698,7 @@
     </message>
     <message>
         <source>Select applications to uninstall</source>
-        <translation>アンインストールするアプリを選択してください</translation>
+        <translation>アンインストールするアプリを選択</translation>
     </message>
     <message>
         <source>%lld items selected · %@</source>
@@ -726,7 +726,7 @@
     </message>
     <message>
         <source>Looking for related files…</source>
-        <translation>関連ファイルを探しています…</translation>
+        <translation>関連ファイルを検索中…</translation>
     </message>
     <message>
         <source>Full Disk Access required</source>
@@ -738,7 +738,7 @@
     </message>
     <message>
         <source>Grant Full Disk Access, then restart Brisko to scan app container data (caches, settings) and uninstall apps completely.</source>
-        <translation>フルディスクアクセスを許可してからBriskoを再起動すると、アプリのコンテナのデータ（キャッシュ、設定）を調べ、アプリを完全にアンインストールできます。</translation>
+        <translation>フルディスクアクセスを許可してからBriskoを再起動すると、アプリのコンテナのデータ（キャッシュ、設定）をスキャンし、アプリを完全にアンインストールできます。</translation>
     </message>
     <message>
         <source>Open System Settings</source>
@@ -762,7 +762,7 @@
     </message>
     <message>
         <source>Press Scan to list startup items</source>
-        <translation>「スキャン」を押すとスタートアップ項目を一覧表示します</translation>
+        <translation>「スキャン」を押すと、スタートアップ項目を一覧表示します</translation>
     </message>
     <message>
         <source>No startup items yet</source>
@@ -770,7 +770,7 @@
     </message>
     <message>
         <source>Press Scan to find Launch Agents and Daemons</source>
-        <translation>「スキャン」を押すと起動エージェントとデーモンを検索します</translation>
+        <translation>「スキャン」を押すと、起動エージェントと起動デーモンを検索します</translation>
     </message>
     <message>
         <source>%lld item · %lld enabled</source>
@@ -810,7 +810,7 @@
     </message>
     <message>
         <source>Duplicate Scan Folders</source>
-        <translation>重複を調べるフォルダ</translation>
+        <translation>重複ファイルを検索するフォルダ</translation>
     </message>
     <message>
         <source>Add Folder…</source>
@@ -818,7 +818,7 @@
     </message>
     <message>
         <source>Choose a folder to scan for duplicate files.</source>
-        <translation>重複ファイルを調べるフォルダを選択してください。</translation>
+        <translation>重複ファイルを検索するフォルダを選択してください。</translation>
     </message>
     <message>
         <source>Remove folder %@</source>
