@@ -2,6 +2,7 @@
 #include "CommandLine/PeopleResults.h"
 
 #include "Models/CheckedSum.h"
+#include "Models/TextKey.h"
 #include "State/Confirmations.h"
 #include "State/Outcomes.h"
 #include "State/Totals.h"
@@ -66,11 +67,12 @@ void write(Printer &to, Printer &, const JunkResult &result)
     for (const JunkCategory &category : result.categories) {
         // The English name, in every language: it is what `clean junk --category` takes.
         writeHeading(to, category.name,
-                     countAndSize(u"%lld file · %@", u"%lld files · %@", category.files.size(), category.totalSize));
+                     countAndSize(textKey(u"%lld file · %@"), textKey(u"%lld files · %@"), category.files.size(),
+                                  category.totalSize));
         writeRows(to, category.files);
         to.end();
     }
-    to.text(countAndSize(u"%lld category · %@ reclaimable", u"%lld categories · %@ reclaimable",
+    to.text(countAndSize(textKey(u"%lld category · %@ reclaimable"), textKey(u"%lld categories · %@ reclaimable"),
                          result.categories.size(), result.reclaimable),
             Look::strong)
         .end();
@@ -84,7 +86,8 @@ void write(Printer &to, Printer &, const LargeFilesResult &result)
     }
     writeRows(to, result.files);
     to.end();
-    to.text(countAndSize(u"%lld file · %@ total", u"%lld files · %@ total", result.files.size(), result.totalSize),
+    to.text(countAndSize(textKey(u"%lld file · %@ total"), textKey(u"%lld files · %@ total"), result.files.size(),
+                         result.totalSize),
             Look::strong)
         .end();
 }
@@ -102,8 +105,8 @@ void write(Printer &to, Printer &, const DuplicatesResult &result)
         writeRows(to, group.files);
         to.end();
     }
-    to.text(countAndSize(u"%lld group · %@ reclaimable", u"%lld groups · %@ reclaimable", result.groups.size(),
-                         result.reclaimable),
+    to.text(countAndSize(textKey(u"%lld group · %@ reclaimable"), textKey(u"%lld groups · %@ reclaimable"),
+                         result.groups.size(), result.reclaimable),
             Look::strong)
         .end();
 }
@@ -132,17 +135,37 @@ void write(Printer &to, Printer &, const AppsResult &result)
     }
     const qint64 total = checkedTotal(result.apps, [](const InstalledApp &app) { return Totals::sizeOf(app); });
     to.end();
-    to.text(countAndSize(u"%lld application · %@ installed", u"%lld applications · %@ installed", result.apps.size(),
-                         total),
+    to.text(countAndSize(textKey(u"%lld application · %@ installed"), textKey(u"%lld applications · %@ installed"),
+                         result.apps.size(), total),
             Look::strong)
         .end();
 }
 
-void writeItem(Printer &to, const StartupItem &item)
+QString stateText(const StartupItem &item)
 {
-    to.text(u"  ").padded(item.isEnabled ? Text::lookup(u"Enabled") : Text::lookup(u"Disabled"), kSizeColumns,
-                          Side::right, item.isEnabled ? Look::good : Look::dim);
-    to.padded(Text::lookup(rawValue(item.type)), kDateColumns + 2, Side::right, Look::dim);
+    return item.isEnabled ? Text::lookup(u"Enabled") : Text::lookup(u"Disabled");
+}
+
+struct StartupColumns {
+    int state = kSizeColumns;
+    int type = kDateColumns + 2;
+};
+
+/// Wide enough for the words of every language, with two blanks behind them.
+StartupColumns columnsFor(const QList<StartupItem> &items)
+{
+    StartupColumns columns;
+    for (const StartupItem &item : items) {
+        columns.state = std::max(columns.state, columnsOf(stateText(item)) + 2);
+        columns.type = std::max(columns.type, columnsOf(Text::lookup(rawValue(item.type))) + 2);
+    }
+    return columns;
+}
+
+void writeItem(Printer &to, const StartupItem &item, const StartupColumns &columns)
+{
+    to.text(u"  ").padded(stateText(item), columns.state, Side::right, item.isEnabled ? Look::good : Look::dim);
+    to.padded(Text::lookup(rawValue(item.type)), columns.type, Side::right, Look::dim);
     to.text(Confirmations::displayName(item), Look::strong).text(u"  ").text(item.path.text(), Look::dim).end();
 }
 
@@ -152,12 +175,14 @@ void write(Printer &to, Printer &, const StartupResult &result)
         to.text(Text::lookup(u"No startup items found")).end();
         return;
     }
+    const StartupColumns columns = columnsFor(result.items);
     for (const StartupItem &item : result.items)
-        writeItem(to, item);
+        writeItem(to, item, columns);
     to.end();
-    to.text(Text::filled(
-                u"%lld items · %lld enabled",
-                {qint64{result.items.size()}, qint64{std::ranges::count_if(result.items, &StartupItem::isEnabled)}}),
+    const qint64 count = result.items.size();
+    const qint64 enabled = std::ranges::count_if(result.items, &StartupItem::isEnabled);
+    to.text(count == 1 ? Text::filled(u"%lld item · %lld enabled", {count, enabled})
+                       : Text::filled(u"%lld items · %lld enabled", {count, enabled}),
             Look::strong)
         .end();
 }
@@ -212,8 +237,8 @@ void write(Printer &to, Printer &, const DryRunResult &result)
         to.text(u"  ").padded(sizeText(item.size), kSizeColumns, Side::left).text(u"  ").text(item.url.text()).end();
     if (!result.items.isEmpty())
         to.end();
-    to.text(countAndSize(u"%lld item · %@ would be removed", u"%lld items · %@ would be removed", result.items.size(),
-                         result.bytes),
+    to.text(countAndSize(textKey(u"%lld item · %@ would be removed"), textKey(u"%lld items · %@ would be removed"),
+                         result.items.size(), result.bytes),
             Look::strong)
         .end();
 }
@@ -234,7 +259,7 @@ void writeFigure(Printer &to, const QString &label, const QString &figure)
 
 void write(Printer &to, Printer &, const StatsResult &result)
 {
-    writeFigure(to, Text::lookup(u"CPU"), u"%1%"_s.arg(std::lround(result.cpuUsage * 100)));
+    writeFigure(to, Text::lookup(u"CPU"), Text::filled(u"%lld%%", {qint64{std::lround(result.cpuUsage * 100)}}));
     writeFigure(to, Text::lookup(u"Memory"), sizeText(result.memoryUsed) + u" / "_s + sizeText(result.memoryTotal));
     writeFigure(to, Text::lookup(u"Free disk space"), sizeText(result.availableDisk));
     writeFigure(to, Text::lookup(u"Disk Temperature"),
@@ -284,7 +309,7 @@ void writeQuestion(Printer &errors, const ConfirmData &question)
     errors.text(question.message).end();
     for (const auto &[label, value] : question.rows)
         errors.text(u"  ").padded(label, labels + 2, Side::right, Look::dim).text(value).end();
-    errors.text(question.confirmTitle + u'?', Look::strong).text(u" [y/N] ");
+    errors.text(Text::filled(u"%@?", {question.confirmTitle}), Look::strong).text(u" [y/N] ");
     errors.flush();
 }
 

@@ -58,6 +58,8 @@ T.AbstractButton {
             Text {
                 width: parent.width
                 text: root.title
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 9
                 color: Theme.textPrimary
                 font: Typo.smallMedium
                 elide: Text.ElideRight
@@ -67,6 +69,8 @@ T.AbstractButton {
             Text {
                 width: parent.width
                 text: root.value
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 9
                 color: Theme.textSecondary
                 font: Typo.detail
                 elide: Text.ElideRight

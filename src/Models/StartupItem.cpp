@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "Models/StartupItem.h"
 
-using namespace Qt::StringLiterals;
+#include "Models/TextKey.h"
 
 QString rawValue(StartupType type)
 {
     switch (type) {
     case StartupType::launchAgent:
-        return u"Launch Agent"_s;
+        return textKey(u"Launch Agent").toString();
     case StartupType::launchDaemon:
-        return u"Launch Daemon"_s;
+        return textKey(u"Launch Daemon").toString();
     case StartupType::loginItem:
-        return u"Login Item"_s;
+        return textKey(u"Login Item").toString();
     }
     Q_UNREACHABLE();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Models/FileURL.h"
+#include "Models/TextKey.h"
 #include "Platform/Platform.h"
 
 #include <QCoro/QCoroTask>
@@ -29,11 +30,12 @@ struct Request {
     QStringView message;
 };
 inline constexpr Request libraryForScan{QLatin1StringView("library"),
-                                        u"Brisko needs access to the Library folder to scan caches and logs."};
-inline constexpr Request libraryForApps{QLatin1StringView("library"),
-                                        u"Brisko needs access to the Library folder to find app-related files."};
-inline constexpr Request applications{QLatin1StringView("applications"),
-                                      u"Brisko needs access to the Applications folder to move apps to Trash."};
+                                        textKey(u"Brisko needs access to the Library folder to scan caches and logs.")};
+inline constexpr Request libraryForApps{
+    QLatin1StringView("library"), textKey(u"Brisko needs access to the Library folder to find app-related files.")};
+inline constexpr Request applications{
+    QLatin1StringView("applications"),
+    textKey(u"Brisko needs access to the Applications folder to move apps to Trash.")};
 
 /// The access key of a picked folder: "folder." and its path with every "/" replaced by "_".
 [[nodiscard]] QString folderKey(const FileURL &folder);

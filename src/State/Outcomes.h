@@ -4,6 +4,7 @@
 #include "Models/ActivityRecord.h"
 #include "Models/Notices.h"
 #include "Models/Removal.h"
+#include "Models/TextKey.h"
 
 #include <QDateTime>
 #include <QString>
@@ -45,9 +46,9 @@ struct Notice {
 /// An error in the system's own words.
 [[nodiscard]] QString words(const std::error_code &error);
 
-inline constexpr Wording junk{u"Can't clean junk", u"Cleaned — %@ freed"};
-inline constexpr Wording largeFiles{u"Can't move to Trash", u"Moved to Trash — %@ freed"};
-inline constexpr Wording duplicates{u"Can't move to Trash", u"Removed %lld duplicates — %@ freed"};
-inline constexpr Wording apps{u"Can't move to Trash", u"Moved to Trash — %@ freed"};
+inline constexpr Wording junk{textKey(u"Can't clean junk"), textKey(u"Cleaned — %@ freed")};
+inline constexpr Wording largeFiles{textKey(u"Can't move to Trash"), textKey(u"Moved to Trash — %@ freed")};
+inline constexpr Wording duplicates{textKey(u"Can't move to Trash"), textKey(u"Removed %lld duplicates — %@ freed")};
+inline constexpr Wording apps{textKey(u"Can't move to Trash"), textKey(u"Moved to Trash — %@ freed")};
 
 } // namespace Outcomes

@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <map>
+#include <mutex>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +20,8 @@ using namespace Qt::StringLiterals;
 // declares a function and so cannot stand in a namespace.
 static void registerTables()
 {
-    Q_INIT_RESOURCE(localization);
+    static std::once_flag once;
+    std::call_once(once, [] { Q_INIT_RESOURCE(localization); });
 }
 
 namespace {

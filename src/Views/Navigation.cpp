@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Views/Navigation.h"
 
+#include "Models/TextKey.h"
 #include "State/AppState.h"
 #include "Support/Text.h"
 
@@ -17,13 +18,13 @@ struct Row {
 };
 
 constexpr std::array kRows = {
-    Row{Page::overview, u"Overview", u"house"},
-    Row{Page::uninstaller, u"Uninstaller", u"trash"},
-    Row{Page::duplicates, u"Duplicates", u"square.stack.3d.up"},
-    Row{Page::largeFiles, u"Large Files", u"doc.text.magnifyingglass"},
-    Row{Page::junk, u"Junk Cleaner", u"sparkles"},
-    Row{Page::startup, u"Startup", u"power"},
-    Row{Page::settings, u"Settings", u"gearshape"},
+    Row{Page::overview, textKey(u"Overview"), u"house"},
+    Row{Page::uninstaller, textKey(u"Uninstaller"), u"trash"},
+    Row{Page::duplicates, textKey(u"Duplicates"), u"square.stack.3d.up"},
+    Row{Page::largeFiles, textKey(u"Large Files"), u"doc.text.magnifyingglass"},
+    Row{Page::junk, textKey(u"Junk Cleaner"), u"sparkles"},
+    Row{Page::startup, textKey(u"Startup"), u"power"},
+    Row{Page::settings, textKey(u"Settings"), u"gearshape"},
 };
 
 QList<PageEntry> entries()

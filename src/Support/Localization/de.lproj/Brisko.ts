@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>Zu groß, um von einem anderen Laufwerk in den Papierkorb kopiert zu werden.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoomen</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>%@?</translation>
+    </message>
 </context>
 </TS>

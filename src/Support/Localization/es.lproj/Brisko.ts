@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>Es demasiado grande para copiarlo a la papelera desde otro disco.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>¿%@?</translation>
+    </message>
 </context>
 </TS>

@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>Trop volumineux pour être copié dans la corbeille depuis un autre disque.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>%@ ?</translation>
+    </message>
 </context>
 </TS>

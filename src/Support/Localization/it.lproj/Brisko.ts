@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>Troppo grande per essere copiato nel Cestino da un altro disco.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Riduci</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>%@?</translation>
+    </message>
 </context>
 </TS>

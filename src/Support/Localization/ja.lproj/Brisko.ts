@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>別のディスクからゴミ箱にコピーするには大きすぎます。</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>元のサイズに戻す</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>拡大/縮小</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>%@しますか？</translation>
+    </message>
 </context>
 </TS>

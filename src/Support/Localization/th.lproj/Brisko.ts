@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>ใหญ่เกินกว่าจะคัดลอกไปถังขยะจากดิสก์อื่น</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>ย่อลง</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>คืนขนาด</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ขยาย</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>เมนู</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>หน้า</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>%@?</translation>
+    </message>
 </context>
 </TS>

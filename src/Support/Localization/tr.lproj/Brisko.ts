@@ -904,5 +904,37 @@
         <source>Too large to copy to the Trash from another disk.</source>
         <translation>Başka bir diskten çöpe kopyalanamayacak kadar büyük.</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Simge Durumuna Küçült</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Önceki Boyut</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Büyüt</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Sayfalar</translation>
+    </message>
+    <message>
+        <source>%lld · %@</source>
+        <translation>%lld · %@</translation>
+    </message>
+    <message>
+        <source>%@?</source>
+        <translation>%@?</translation>
+    </message>
 </context>
 </TS>
