@@ -246,7 +246,7 @@ void write(Printer &to, Printer &, const DryRunResult &result)
 void write(Printer &to, Printer &, const SwitchResult &result)
 {
     if (result.item)
-        writeItem(to, *result.item);
+        writeItem(to, *result.item, columnsFor({*result.item}));
     if (result.toast)
         to.text(result.toast->message).end();
 }

@@ -120,7 +120,7 @@ T.AbstractButton {
                     width: parent.width
                     text: root.subtitle
                     fontSizeMode: Text.HorizontalFit
-                    minimumPixelSize: 11
+                    minimumPixelSize: 9
                     color: Theme.textSecondary
                     font: Typo.caption
                     elide: Text.ElideRight

@@ -98,6 +98,7 @@ void AppState::setLanguage(AppLanguage language)
 {
     LanguageManager::apply(language, *m_environment.defaults);
     publish(m_language, language, &AppState::languageChanged);
+    askAgain();
 }
 
 void AppState::startInitialScan()

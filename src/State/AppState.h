@@ -289,6 +289,7 @@ private:
 
     template <typename T>
     void publish(T &field, std::type_identity_t<T> value, void (AppState::*changed)());
+    void askAgain();
     /// Sends progress texts of a run to `scanDetail`, on the main thread, until the run is stopped.
     [[nodiscard]] Progress progressOf(const Lane &lane);
     void setScanDetail(const QString &text);

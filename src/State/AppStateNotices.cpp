@@ -23,6 +23,18 @@ void AppState::askToConfirm(ConfirmData question)
     publish(m_confirm, std::move(question), &AppState::confirmChanged);
 }
 
+/// Puts an open question again, in the language of now: it stays the same question.
+void AppState::askAgain()
+{
+    if (!m_confirm || !m_confirm->again)
+        return;
+    ConfirmData question = m_confirm->again();
+    question.id = m_confirm->id;
+    question.onConfirm = m_confirm->onConfirm;
+    m_confirm = std::move(question);
+    Q_EMIT confirmChanged();
+}
+
 void AppState::acceptConfirm()
 {
     if (!m_confirm)

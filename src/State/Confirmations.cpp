@@ -42,7 +42,8 @@ ConfirmData Confirmations::cleanJunk(const QList<JunkCategory> &categories)
             .message = junkMessage(categories, files),
             .rows = {{Text::lookup(u"Total Size"), Format::bytes(Totals::sizeOf(categories))}},
             .confirmTitle = Text::lookup(u"Clean Selected"),
-            .onConfirm = {}};
+            .onConfirm = {},
+            .again = [categories] { return cleanJunk(categories); }};
 }
 
 ConfirmData Confirmations::removeLargeFiles(const QList<LargeFile> &files)
@@ -56,7 +57,8 @@ ConfirmData Confirmations::removeLargeFiles(const QList<LargeFile> &files)
             .message = Text::lookup(u"The selected files will be moved to Trash."),
             .rows = {{Text::lookup(u"Total Size"), Format::bytes(Totals::sizeOf(files))}},
             .confirmTitle = Text::lookup(u"Move to Trash"),
-            .onConfirm = {}};
+            .onConfirm = {},
+            .again = [files] { return removeLargeFiles(files); }};
 }
 
 ConfirmData Confirmations::removeDuplicates(const QList<DuplicateFile> &files)
@@ -71,7 +73,8 @@ ConfirmData Confirmations::removeDuplicates(const QList<DuplicateFile> &files)
                 Text::lookup(u"The selected copies will be moved to Trash. One original copy of each file is kept."),
             .rows = {{Text::lookup(u"Selected Files"), countAndSize(count, Totals::sizeOf(files))}},
             .confirmTitle = Text::lookup(u"Move to Trash"),
-            .onConfirm = {}};
+            .onConfirm = {},
+            .again = [files] { return removeDuplicates(files); }};
 }
 
 ConfirmData Confirmations::uninstall(const QList<InstalledApp> &apps)
@@ -91,7 +94,8 @@ ConfirmData Confirmations::uninstall(const QList<InstalledApp> &apps)
         .rows = {{single ? Text::lookup(u"Application") : Text::lookup(u"Applications"), countAndSize(count, bundles)},
                  {Text::lookup(u"Related Files"), countAndSize(relatedCount, related)}},
         .confirmTitle = Text::lookup(u"Move to Trash"),
-        .onConfirm = {}};
+        .onConfirm = {},
+        .again = [apps] { return uninstall(apps); }};
 }
 
 ConfirmData Confirmations::removeStartupItem(const StartupItem &item)
@@ -105,7 +109,8 @@ ConfirmData Confirmations::removeStartupItem(const StartupItem &item)
             Text::lookup(u"This will move the plist file to Trash. You can re-enable it later from the original app."),
         .rows = {{Text::lookup(u"Type"), Text::lookup(rawValue(item.type))}, {Text::lookup(u"Path"), item.path.text()}},
         .confirmTitle = Text::lookup(u"Remove"),
-        .onConfirm = {}};
+        .onConfirm = {},
+        .again = [item] { return removeStartupItem(item); }};
 }
 
 QString Confirmations::displayName(const StartupItem &item)

@@ -666,7 +666,7 @@
     </message>
     <message>
         <source>Caches, duplicates &amp; unused apps</source>
-        <translation>Önbellekler, yinelenenler ve kullanılmayan uygulamalar</translation>
+        <translation>Önbellek, yinelenen ve kullanılmayanlar</translation>
     </message>
     <message>
         <source>Unused applications</source>
