@@ -42,7 +42,7 @@ struct ConfirmData {
     QString message;
     QList<std::pair<QString, QString>> rows; // label and value
     QString confirmTitle;
-    std::function<void()> onConfirm;    // starts the removal; returns before it ends
-    std::function<ConfirmData()> again; // the same question in the language of the moment
+    std::function<void()> onConfirm;         // starts the removal; returns before it ends
+    std::function<ConfirmData()> again = {}; // the same question in the language of the moment
     friend bool operator==(const ConfirmData &a, const ConfirmData &b) { return a.id == b.id; }
 };

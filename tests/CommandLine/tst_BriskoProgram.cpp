@@ -157,6 +157,7 @@ private Q_SLOTS:
     void withoutAUsableHome_data();
     void withoutAUsableHome();
     void standardErrorIsEmptyInAnyLocale();
+    void errorsOfTheSystemAreInItsLanguage();
     void longListsArePrintedQuickly();
 };
 
@@ -760,6 +761,24 @@ void tst_BriskoProgram::standardErrorIsEmptyInAnyLocale()
         QCOMPARE(ended.status, 0);
         QCOMPARE(ended.errors, QByteArray());
     }
+}
+
+void tst_BriskoProgram::errorsOfTheSystemAreInItsLanguage()
+{
+    ProgramRunner runner;
+    const FileURL locales = runner.tree.folder("locales");
+    QProcess maker;
+    maker.start(u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s, locales.child("de_DE.UTF-8").text()});
+    QVERIFY(maker.waitForFinished());
+    QCOMPARE(maker.exitCode(), 0);
+    runner.tree.file("files/a", QByteArray(5'000, 'a'));
+    runner.tree.file("home/.local/share"); // where a folder should be
+    runner.variables.removeAll("LC_ALL=C.UTF-8");
+    runner.variables += {"LC_ALL=de_DE.UTF-8", "LOCPATH=" + locales.path()};
+    const ProgramEnd ended =
+        runner.run({"remove", "large-files", "--folder", "files", "--min-size", "1", "--all", "--yes"});
+    QCOMPARE(ended.status, 1);
+    QVERIFY2(ended.errors.contains("Verschieben in den Papierkorb nicht möglich: Ist kein Verzeichnis"), ended.errors);
 }
 
 void tst_BriskoProgram::longListsArePrintedQuickly()

@@ -46,9 +46,10 @@ QList<Place> places()
         {u".qml"_s, QRegularExpression(u"\\bsymbol\\s*:([^\\n]*)"_s)},
         {u".cpp"_s, QRegularExpression(u"\\.symbol\\s*=([^,}\\n]*)"_s)},
         {u".cpp"_s, QRegularExpression(u"showToast\\(\\s*(u\"[^\"]*\")"_s)},
-        {u"Views/Navigation.cpp"_s, QRegularExpression(u"Row\\{Page::\\w+,\\s*u\"[^\"]*\",\\s*(u\"[^\"]*\")"_s)},
+        {u"Views/Navigation.cpp"_s,
+         QRegularExpression(u"Row\\{Page::\\w+,\\s*textKey\\(u\"[^\"]*\"\\),\\s*(u\"[^\"]*\")"_s)},
         {u"Services/JunkScanService.cpp"_s,
-         QRegularExpression(u"CategoryRow\\{\\s*u\"[^\"]*\",\\s*QLatin1StringView\\((\"[^\"]*\")"_s)},
+         QRegularExpression(u"CategoryRow\\{\\s*textKey\\(u\"[^\"]*\"\\),\\s*QLatin1StringView\\((\"[^\"]*\")"_s)},
         {u"Views/AppsModel.cpp"_s, QRegularExpression(u"QString\\(\\) : (u\"[a-z.]*\")"_s)},
     };
 }
