@@ -121,7 +121,8 @@ struct Program : PageFixture {
     {
         const AppState &all = state();
         QTRY_VERIFY(!all.scanning() && !all.appsLoading() && !all.appDetailsLoading() && !all.junkLoading() &&
-                    !all.largeFilesLoading() && !all.duplicatesLoading() && !all.startupLoading() && !all.toast());
+                    !all.largeFilesLoading() && !all.duplicatesLoading() && !all.startupLoading() && !all.toast() &&
+                    all.scanDetail().isEmpty());
     }
     Words words(QQuickWindow &window)
     {
@@ -184,6 +185,7 @@ private Q_SLOTS:
         Program program;
         program.scanEverything();
         program.state().setSelection(Page::junk);
+        program.settleScans();
         GlassWindow &window = *program.delegate->window();
         LargeFilesPage &page = *program.delegate->pages()->largeFiles();
         page.toggle(page.files()->index(0, 0).data(page.files()->roleNames().key("itemId")).toString());
@@ -202,6 +204,7 @@ private Q_SLOTS:
         QFETCH(const AppLanguage, language);
         Program program;
         program.scanEverything();
+        program.settleScans();
         program.delegate->toggleStatusPopover();
         PanelWindow &panel = program.delegate->statusPopover();
         QVERIFY(panel.isVisible());
