@@ -37,7 +37,8 @@ private:
     const int m_files;
     const qsizetype m_longestItemName; // bytes
     std::mutex m_mutex;
-    QHash<QByteArray, quint64> m_next; // the next number to try for a name that was met again; guarded by m_mutex, as is the rest
+    QHash<QByteArray, quint64>
+        m_next; // the next number to try for a name that was met again; guarded by m_mutex, as is the rest
     time_t m_second = 0;
     QByteArray m_secondText; // in local time, as records carry it
 };
