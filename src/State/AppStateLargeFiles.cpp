@@ -60,19 +60,23 @@ QCoro::Task<RemovalReport> AppState::runLargeFileRemoval(QPointer<AppState> self
     const Gate::Pass pass = co_await self->m_removalGate.enter();
     if (!self || !self->hasUsableHome())
         co_return {};
-    QList<LargeFile> files;
-    std::ranges::copy_if(self->m_largeFiles, std::back_inserter(files),
-                         [&selected](const LargeFile &file) { return selected.contains(file.url); });
-    if (files.isEmpty())
+    const QList<LargeFile> listed = self->m_largeFiles;
+    if (std::ranges::none_of(listed, [&selected](const LargeFile &file) { return selected.contains(file.url); }))
         co_return {};
 
     // What it came to is judged where it was done: among thousands of files that takes longer than a frame.
     const auto work = QtConcurrent::run(
-        &self->m_environment.pools->userInitiated, [platform = self->m_environment.platform, files, stop = run.stop()] {
+        &self->m_environment.pools->userInitiated,
+        [platform = self->m_environment.platform, listed, selected = std::move(selected), stop = run.stop()] {
+            QList<LargeFile> files;
+            std::ranges::copy_if(listed, std::back_inserter(files),
+                                 [&selected](const LargeFile &file) { return selected.contains(file.url); });
             const TrashResult result = TrashService::trash(*platform, RemovalReports::urlsOf(files), stop);
-            return RemovalReports::settle(files, result, Outcomes::largeFiles);
+            auto settled = RemovalReports::settle(files, result, Outcomes::largeFiles);
+            QList<LargeFile> left = RemovalReports::without(listed, settled.gone);
+            return std::pair(std::move(settled), std::move(left));
         });
-    auto settled = co_await work;
+    auto [settled, left] = co_await work;
     if (!self)
         co_return settled.report;
     if (const qint64 count = settled.removed.size(); count > 0) {
@@ -81,8 +85,10 @@ QCoro::Task<RemovalReport> AppState::runLargeFileRemoval(QPointer<AppState> self
             count == 1 ? Text::filled(u"%lld large file removed", {count})
                        : Text::filled(u"%lld large files removed", {count}),
             Text::filled(u"%@ freed", {Format::bytes(settled.freed)}), settled.freed, self->m_environment.now());
-        self->publish(self->m_largeFiles, RemovalReports::without(self->m_largeFiles, settled.gone),
-                      &AppState::largeFilesChanged);
+        // A scan may have published another list meanwhile.
+        if (!self->m_largeFiles.isSharedWith(listed))
+            left = RemovalReports::without(self->m_largeFiles, settled.gone);
+        self->publish(self->m_largeFiles, std::move(left), &AppState::largeFilesChanged);
     }
     self->announce(settled.report);
     co_return settled.report;

@@ -47,6 +47,13 @@ public:
             endResetModel();
             return;
         }
+        // The usual change of a long list, which needs no table of its keys: some rows have gone.
+        if (const auto gone = rowsLeftOut(records); gone && !records.isEmpty()) {
+            for (auto range = gone->crbegin(); range != gone->crend(); ++range)
+                removeRecords(range->first, range->second);
+            changeTo(std::move(records));
+            return;
+        }
         const QHash<Key, int> rows = rowsOf(records);
         if (!sharesAKey(rows)) {
             beginResetModel();
@@ -116,6 +123,22 @@ private:
         for (int row = 0; row < records.size(); ++row)
             rows.insert(keyOf(records.at(row)), row);
         return rows;
+    }
+    /// The ranges of rows, as first row and count, that the records leave out; absent when they are not the others in
+    /// their order.
+    [[nodiscard]] std::optional<QList<std::pair<int, int>>> rowsLeftOut(const QList<Record> &records) const
+    {
+        QList<std::pair<int, int>> ranges;
+        qsizetype kept = 0;
+        for (int row = 0; row < m_records.size(); ++row) {
+            if (kept < records.size() && keyOf(m_records.at(row)) == keyOf(records.at(kept)))
+                ++kept;
+            else if (!ranges.isEmpty() && ranges.last().first + ranges.last().second == row)
+                ++ranges.last().second;
+            else
+                ranges.append({row, 1});
+        }
+        return kept == records.size() ? std::optional(ranges) : std::nullopt;
     }
     [[nodiscard]] bool sharesAKey(const QHash<Key, int> &rows) const
     {
