@@ -22,7 +22,7 @@ using Hashed = std::function<void(qint64)>;
 [[nodiscard]] std::optional<QByteArray> ofOpenFile(const Sha256 &algorithm, int descriptor,
                                                    const FileReading::Stamp &stamp, const CancelToken &cancel,
                                                    const Hashed &hashed = {});
-/// The same, read into `chunk`, which has room for 1 MiB.
+/// The same, read into `chunk`, which has room for 1 MiB, or for the whole file where that is shorter.
 [[nodiscard]] std::optional<QByteArray> ofOpenFile(const Sha256 &algorithm, int descriptor,
                                                    const FileReading::Stamp &stamp, std::span<char> chunk,
                                                    const CancelToken &cancel, const Hashed &hashed = {});
