@@ -121,6 +121,7 @@ class tst_BriskoProgram : public QObject
 
 private Q_SLOTS:
     void withoutACommandItSaysWhatToDo();
+    void withoutTheWindowsModuleItSaysSo();
     void helpAndVersion();
     void wrongCommandLinesExitWithTwo_data();
     void wrongCommandLinesExitWithTwo();
@@ -170,6 +171,23 @@ void tst_BriskoProgram::withoutACommandItSaysWhatToDo()
     QVERIFY(ended.errors.contains("brisko scan all") && ended.errors.contains("brisko --help"));
     QCOMPARE(ended.errors.count('\n'), 1);
     QVERIFY(!ScratchTree::exists(runner.tree.at("home/.config")));
+}
+
+void tst_BriskoProgram::withoutTheWindowsModuleItSaysSo()
+{
+    const ScratchTree tree;
+    const QString alone = tree.folder("bin").child("brisko").text();
+    QVERIFY(QFile::copy(QStringLiteral(BRISKO_PROGRAM), alone));
+    QProcess program;
+    program.start(alone, QStringList());
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitCode(), 1);
+    const QByteArray errors = program.readAllStandardError();
+    QVERIFY2(errors.startsWith("brisko: the window cannot be loaded: brisko-window"), errors);
+    QCOMPARE(errors.count('\n'), 1);
+    program.start(alone, {u"--version"_s});
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitCode(), 0); // commands need no window
 }
 
 void tst_BriskoProgram::helpAndVersion()
